@@ -1,0 +1,40 @@
+// INI files through the profile services of Windows. Section and key names
+// compare without case; the first match counts; a value loses the blanks
+// around it and one pair of quotes that encloses it.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/win_error.h"
+
+namespace tavr {
+
+class IniFiles {
+ public:
+  virtual ~IniFiles() = default;
+
+  /// GetPrivateProfileString into a buffer of `capacity` characters: at most
+  /// capacity - 1 come back. A missing file, section or key gives `fallback`.
+  virtual std::string getString(std::string_view section, std::string_view key,
+                                std::string_view fallback, std::uint32_t capacity,
+                                std::string_view file) = 0;
+
+  /// GetPrivateProfileInt: the leading digits of the value, `fallback` when the
+  /// key is missing, 0 when it holds no number.
+  virtual std::int32_t getInt(std::string_view section, std::string_view key, std::int32_t fallback,
+                              std::string_view file) = 0;
+
+  /// GetPrivateProfileSection: the section's "key=value" lines, each with its
+  /// NUL, and a closing NUL, cut to `capacity` characters; "" when missing.
+  virtual std::string getSection(std::string_view section, std::uint32_t capacity,
+                                 std::string_view file) = 0;
+
+  /// WritePrivateProfileString: sets the key, making file, section and line as
+  /// needed; every other line stays as it was. 5 or 32 when the file refuses.
+  virtual Status writeString(std::string_view section, std::string_view key, std::string_view value,
+                             std::string_view file) = 0;
+};
+
+}  // namespace tavr
