@@ -1,0 +1,94 @@
+// The machine-folder program: the whole program on a Windows machine that is
+// kept in a folder.
+#include <csignal>
+#include <cstdio>
+#include <exception>
+#include <iostream>
+#include <string>
+
+#include <unistd.h>
+
+#include "app/options.h"
+#include "app/version.h"
+#include "basic/resume_next.h"
+#include "engine/start.h"
+#include "platform/folder/machine_folder.h"
+#include "ui/terminal/report.h"
+
+namespace {
+
+constexpr int kDone = 0;
+constexpr int kWrongCall = 2;
+
+tavr::folder::MachineFolder* interrupted_machine = nullptr;  // for the signal handler alone
+
+int fail(const std::string& what) {
+  std::fprintf(stderr, "tavrwipe: %s\n", what.c_str());
+  return kWrongCall;
+}
+
+bool onTerminal() { return isatty(STDIN_FILENO) != 0 && isatty(STDERR_FILENO) != 0; }
+
+// The person at the terminal; an answer that begins with "y" is Yes.
+int askPerson(std::string_view text, std::string_view title) {
+  std::fprintf(stderr, "%.*s: %.*s [y/N] ", static_cast<int>(title.size()), title.data(),
+               static_cast<int>(text.size()), text.data());
+  std::string answer;
+  std::getline(std::cin, answer);
+  return answer.starts_with('y') || answer.starts_with('Y') ? tavr::kAnswerYes : tavr::kAnswerNo;
+}
+
+// The first interrupt asks the run to stop, as the Stop button does; the second
+// ends the process.
+void onInterrupt(int) {
+  if (interrupted_machine != nullptr) interrupted_machine->interrupt();
+  std::signal(SIGINT, SIG_DFL);
+}
+
+int runOn(tavr::folder::MachineFolder& folder, const tavr::Options& options) {
+  tavr::Program program(folder.machine());
+  tavr::Form_Initialize(program, options.arguments);
+  if (program.form.unattended != 1) {
+    return fail(
+        "these arguments open the window, which needs the Windows program; "
+        "see --help for the unattended ones");
+  }
+  const auto printed = options.rows    ? tavr::Printed::rows
+                       : options.quiet ? tavr::Printed::nothing
+                                       : tavr::Printed::tables;
+  tavr::TerminalReport report(program, printed, stdout,
+                              !options.quiet && isatty(STDERR_FILENO) != 0 ? stderr : nullptr);
+  folder.setInterruptHandler([&program] { program.form.cmd_stop.click(); });
+  interrupted_machine = &folder;
+  std::signal(SIGINT, onInterrupt);
+  try {
+    tavr::Form_Load(program);
+  } catch (const tavr::ProcessEnd&) {
+    // How every unattended start ends.
+  }
+  interrupted_machine = nullptr;
+  report.finish();
+  if (!folder.save()) return fail(options.machine + "/registry.reg: cannot be written");
+  return kDone;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const tavr::Options options = tavr::parseOptions(argc, argv);
+  if (!options.error.empty()) return fail(options.error + "; see tavrwipe --help");
+  if (options.help) {
+    std::fputs(tavr::helpText(), stdout);
+    return kDone;
+  }
+  if (options.version) {
+    std::printf("tavrwipe %s\n", tavr::kVersion);
+    return kDone;
+  }
+  try {
+    tavr::folder::MachineFolder folder(options.machine, onTerminal() ? askPerson : nullptr);
+    return runOn(folder, options);
+  } catch (const std::exception& error) {
+    return fail(error.what());
+  }
+}

@@ -1,0 +1,107 @@
+// Writes a sample machine folder, for trying the program and for measuring it.
+// It is no part of the program and shares no code with it.
+#include <charconv>
+#include <cstdio>
+#include <exception>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "app/sample_traces.h"
+
+namespace {
+
+constexpr std::string_view kUsage =
+    "sample-machine DIR [--files N] [--seed S] [--language FILE] [--only chrome-cache]\n"
+    "\n"
+    "Writes a machine folder into DIR, which must be empty or missing.\n"
+    "  --files N            how many files in all (default 60, never fewer); what goes beyond\n"
+    "                       the fixed traces fills the browsers' caches\n"
+    "  --seed S             another machine of the same kind (default 1)\n"
+    "  --language FILE      the program's language file, copied to its folder\n"
+    "  --only chrome-cache  nothing but N files in Chrome's session folder, for measuring\n";
+
+struct Options {
+  std::string directory;
+  std::size_t files = 60;
+  std::uint64_t seed = 1;
+  std::string language;
+  bool only_chrome_cache = false;
+  bool help = false;
+};
+
+std::uint64_t numberOf(std::string_view option, std::string_view text) {
+  std::uint64_t value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (error != std::errc() || end != text.data() + text.size()) {
+    throw std::runtime_error(std::string(option) + ": \"" + std::string(text) +
+                             "\" is not a number");
+  }
+  return value;
+}
+
+Options parse(std::span<char*> words) {
+  Options options;
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    const std::string_view word = words[i];
+    if (word == "--help") {
+      options.help = true;
+      continue;
+    }
+    if (!word.starts_with("--")) {
+      if (!options.directory.empty()) throw std::runtime_error("more than one folder");
+      options.directory = word;
+      continue;
+    }
+    if (i + 1 == words.size()) throw std::runtime_error(std::string(word) + ": no value");
+    const std::string_view value = words[++i];
+    if (word == "--files") {
+      options.files = numberOf(word, value);
+    } else if (word == "--seed") {
+      options.seed = numberOf(word, value);
+    } else if (word == "--language") {
+      options.language = value;
+    } else if (word == "--only" && value == "chrome-cache") {
+      options.only_chrome_cache = true;
+    } else {
+      throw std::runtime_error(std::string(word) + " " + std::string(value) + ": unknown option");
+    }
+  }
+  if (options.directory.empty() && !options.help) throw std::runtime_error("no folder given");
+  return options;
+}
+
+std::string contentsOf(const std::string& path) {
+  if (path.empty()) return {};
+  std::ifstream file(path, std::ios::binary);
+  if (!file) throw std::runtime_error(path + ": cannot be read");
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    const Options options = parse(std::span(argv, static_cast<std::size_t>(argc)).subspan(1));
+    if (options.help) {
+      std::fputs(kUsage.data(), stdout);
+      return 0;
+    }
+    const std::string language = contentsOf(options.language);
+    tavr::sample::SampleTree tree(options.directory, options.seed);
+    if (options.only_chrome_cache) {
+      tavr::sample::writeChromeCacheMachine(tree, options.files);
+    } else {
+      tavr::sample::writeMachine(tree, options.files, language);
+    }
+    std::printf("%s: %zu files\n", options.directory.c_str(), tree.files());
+    return 0;
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "sample-machine: %s\n", error.what());
+    return 2;
+  }
+}

@@ -1,0 +1,219 @@
+#include "config/plug_ins.h"
+
+#include "basic/like.h"
+#include "basic/resume_next.h"
+#include "basic/text.h"
+#include "basic/utf.h"
+#include "services/cookies_folder.h"
+#include "services/settings_keys.h"
+
+namespace tavr {
+
+namespace {
+
+constexpr std::uint32_t kArchive = 32;
+constexpr int kNumber = 1;
+constexpr std::size_t kExtension = 3;   // ".tv"
+constexpr std::size_t kFileHead = 5;    // "file="
+constexpr std::size_t kFileTail = 2;    // two characters that are not looked at
+constexpr std::size_t kFolderHead = 7;  // "folder="
+constexpr std::size_t kFolderTail = 5;  // two skipped, the mask's two, the flag
+
+// References expanded; the text keeps the NUL behind it, which a list row drops.
+std::string expanded(Machine& machine, std::u16string_view path) {
+  return machine.environment.expand(fromUtf16(path)) + '\0';
+}
+
+}  // namespace
+
+std::string PlugIns::file(std::string_view name) const {
+  return machine_.environment.appPath() + "\\" + std::string(name);
+}
+
+void PlugIns::listDefinitions() {
+  ResumeNext on;
+  controls_.View1.clear();
+  if (const auto folder = cookiesFolder(machine_)) {
+    controls_.Text3.setText(*folder);
+    registry_.fSaveString(Root::kLocalMachine, settings::kMainKey, "cookies", Trim(*folder));
+  }
+  bool listed = false;
+  on.next([&] {
+    controls_.File1.setPath(file("plugins"));
+    listed = true;
+  });
+  controls_.File1.setPattern("*.tv");
+  if (!listed) return;  // without the folder nothing is listed
+  for (int i = 0; i < controls_.File1.count(); ++i) {
+    machine_.events.doEvents();
+    const std::string name = controls_.File1.list(i);
+    controls_.View1.add(Trim(name.substr(0, name.size() - kExtension)), "b");
+  }
+}
+
+bool PlugIns::hasSelection() const { return !Dir(machine_, file("slectplg.cln")).empty(); }
+
+void PlugIns::restoreTicks(const std::function<void(const std::string& text)>& ticked) {
+  ResumeNext on;
+  const int number = numbers_.freeFile();
+  on.next([&] {
+    numbers_.open(number, file("slectplg.cln"), OpenMode::kInput);
+    while (!numbers_.eof(number)) {
+      machine_.events.doEvents();
+      const std::string line(Trim(LCase(numbers_.lineInput(number))));
+      for (int row = 1; row <= controls_.View1.count(); ++row) {
+        ListRow& item = controls_.View1.item(row);
+        if (!on.met([&] { return Like(Trim(LCase(item.text)), line); })) continue;
+        item.checked = true;
+        ticked(item.text);
+      }
+    }
+  });
+  on.next([&] { numbers_.close(number); });
+}
+
+void PlugIns::startFile(const std::string& path) {
+  ResumeNext on;
+  on.next([&] { SetAttr(machine_, path, kArchive); });
+  on.next([&] { Kill(machine_, path); });
+}
+
+void PlugIns::writeSelection() {
+  ResumeNext on;
+  const std::string path = file("slectplg.cln");
+  startFile(path);
+  numbers_.Reset();
+  on.next([&] { numbers_.open(kNumber, path, OpenMode::kOutput); });
+  int row = 1;
+  do {
+    machine_.events.doEvents();
+    if (on.met([&] { return controls_.View1.item(row).checked; })) {
+      on.next([&] { numbers_.print(kNumber, controls_.View1.item(row).text); });
+    }
+    ++row;
+  } while (row <= controls_.View1.count());
+  on.next([&] { numbers_.close(kNumber); });
+}
+
+void PlugIns::addFolder(std::string_view line) {
+  const std::u16string value = toUtf16(line).substr(kFolderHead);
+  if (value.size() < kFolderTail) return;
+  const std::u16string_view folder(value.data(), value.size() - kFolderTail);
+  const std::u16string_view tail = std::u16string_view(value).substr(folder.size());
+  controls_.List5.add(expanded(machine_, folder));
+  controls_.List5.add(fromUtf16(tail.substr(2, 2)));
+  controls_.List5.add(fromUtf16(tail.substr(4)));
+}
+
+// Once a registry section has been followed by a file section, both are open: a
+// line then counts in both.
+void PlugIns::readLine(const std::string& line, bool& files, bool& registry) {
+  const std::string word(Trim(LCase(line)));
+  if (word == "files") {
+    files = true;
+    return;
+  }
+  if (word == "registry") {
+    registry = true;
+    files = false;
+    return;
+  }
+  if (files && line.starts_with("file")) {
+    const std::u16string text = toUtf16(line);
+    if (text.size() >= kFileHead + kFileTail) {
+      controls_.List4.add(expanded(machine_, std::u16string_view(text).substr(
+                                                 kFileHead, text.size() - kFileHead - kFileTail)));
+    }
+  }
+  if (files && line.starts_with("folder") && line.size() >= kFolderHead) addFolder(line);
+  if (registry) controls_.List6.add(line);
+}
+
+void PlugIns::readDefinition(const std::string& name) {
+  ResumeNext on;
+  const int number = numbers_.freeFile();
+  bool files = false;
+  bool registry = false;
+  on.next([&] {
+    numbers_.open(number, file("plugins\\" + std::string(Trim(name)) + ".tv"), OpenMode::kInput);
+    while (!numbers_.eof(number)) readLine(numbers_.lineInput(number), files, registry);
+  });
+  on.next([&] { numbers_.close(number); });
+}
+
+void PlugIns::writeList(const TextList& list, std::string_view name) {
+  ResumeNext on;
+  const std::string path = file(name);
+  startFile(path);
+  const int number = numbers_.freeFile();
+  on.next([&] { numbers_.open(number, path, OpenMode::kOutput); });
+  for (int i = 0; i < list.count(); ++i) {
+    machine_.events.doEvents();
+    const std::string_view line = Trim(list.at(i));
+    if (!line.empty()) on.next([&] { numbers_.print(number, line); });
+  }
+  on.next([&] { numbers_.close(number); });
+}
+
+void PlugIns::Command1() {
+  writeSelection();
+  controls_.List4.clear();
+  controls_.List5.clear();
+  controls_.List6.clear();
+  for (int row = 1; row <= controls_.View1.count(); ++row) {
+    const ListRow& item = controls_.View1.item(row);
+    if (item.checked) readDefinition(item.text);
+  }
+  writeList(controls_.List4, "plgfile.cln");
+  writeList(controls_.List5, "plgfoldr.cln");
+  writeList(controls_.List6, "plgreg.cln");
+}
+
+namespace {
+
+// Every line of the file; false when there is no such file.
+bool readLines(Machine& machine, FileNumbers& numbers, const std::string& path,
+               const std::function<void(const std::string&)>& line) {
+  if (Dir(machine, path).empty()) return false;
+  ResumeNext on;
+  const int number = numbers.freeFile();
+  on.next([&] {
+    numbers.open(number, path, OpenMode::kInput);
+    while (!numbers.eof(number)) line(numbers.lineInput(number));
+  });
+  on.next([&] { numbers.close(number); });
+  return true;
+}
+
+}  // namespace
+
+void PlugIns::Command3() {
+  for (TextList* list : {&controls_.List7, &controls_.List8, &controls_.List9, &controls_.List10,
+                         &controls_.List11}) {
+    list->clear();
+  }
+  const bool files =
+      readLines(machine_, numbers_, file("plgfile.cln"), [&](const std::string& line) {
+        if (!Trim(line).empty()) controls_.List7.add(line);
+      });
+  if (!files) return;
+  TextList* const fields[] = {&controls_.List8, &controls_.List9, &controls_.List10};
+  std::size_t field = 0;
+  const bool folders = readLines(machine_, numbers_, file("plgfoldr.cln"),
+                                 [&](const std::string& line) { fields[field++ % 3]->add(line); });
+  while (field % 3 != 0) fields[field++ % 3]->add("");  // a short last record
+  if (!folders) return;
+  readLines(machine_, numbers_, file("plgreg.cln"),
+            [&](const std::string& line) { controls_.List11.add(line); });
+}
+
+int search_found(const TextList& list6, std::string_view name) {
+  ResumeNext on;
+  const std::string lower = LCase(name);
+  for (int i = 0; i < list6.count(); ++i) {
+    if (on.met([&] { return Like(lower, LCase(list6.at(i))); })) return i;
+  }
+  return -1;
+}
+
+}  // namespace tavr

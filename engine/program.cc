@@ -1,0 +1,55 @@
+#include "engine/program.h"
+
+#include "basic/number.h"
+#include "engine/counters.h"
+#include "engine/runs.h"
+#include "engine/start.h"
+#include "engine/task_table.h"
+
+namespace tavr {
+
+namespace {
+
+PlugInControls plugInControls(Form1& form) {
+  return {form.View1, form.File1, form.Text3, form.List4,  form.List5, form.List6,
+          form.List7, form.List8, form.List9, form.List10, form.List11};
+}
+
+// What stands hidden or disabled on the fresh form.
+void freshForm(Form1& form) {
+  form.cmd_stop.enabled = false;
+  form.Label1[0].visible = false;
+  form.Gif89a1.visible = false;
+}
+
+}  // namespace
+
+Program::Program(Machine& on)
+    : machine(on),
+      form(on),
+      numbers(on),
+      registry(on, form.List12, form.List20, form.Text2),
+      deletion(on, form, numbers),
+      cache(on, form),
+      tracks{on, form, registry, deletion, cache, call_stack},
+      plug_ins(on, numbers, registry, plugInControls(form)),
+      parent_totals(on),
+      directory_search(on) {
+  freshForm(form);
+  form.Text4.onChange = [this] { Text4_Change(*this); };
+  form.Text5.onChange = [this] { Text5_Change(*this); };
+  form.Text15.onChange = [this] { Text15_Change(*this); };
+  form.txtfilecount.onChange = [this] { txtfilecount_Change(*this); };
+  form.Timer2.onTick = [this] { Timer2_Timer(*this); };
+  form.cmd_start.onClick = [this] { cmd_start_Click(*this); };
+  form.cmd_test.onClick = [this] { cmd_test_Click(*this); };
+  form.cmd_stop.onClick = [this] { cmd_stop_Click(*this); };
+  form.chameleonButton5.onClick = [this] { eraseRun(*this); };
+  form.chameleonButton6.onClick = [this] { testRun(*this); };
+}
+
+std::string Program::file(std::string_view name) const {
+  return machine.environment.appPath() + "\\" + std::string(name);
+}
+
+}  // namespace tavr

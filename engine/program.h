@@ -1,0 +1,49 @@
+// The program: the main form and what its handlers work with, put together
+// over one machine. It lives as long as the process.
+#pragma once
+
+#include <functional>
+
+#include "config/plug_ins.h"
+#include "forms/form1.h"
+#include "platform/machine.h"
+#include "services/cache_entries.h"
+#include "services/call_stack.h"
+#include "services/deletion.h"
+#include "services/directory_search.h"
+#include "services/file_statements.h"
+#include "services/parent_totals.h"
+#include "services/registry_layer.h"
+#include "tracks/track_context.h"
+
+namespace tavr {
+
+enum class RunKind : std::uint8_t { erase, test };
+
+struct Program {
+  /// Builds the form and puts its handlers in; starts nothing.
+  explicit Program(Machine& machine);
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  Machine& machine;
+  Form1 form;
+  FileNumbers numbers;
+  CallStack call_stack;
+  RegistryLayer registry;
+  Deletion deletion;
+  CacheEntries cache;
+  TrackContext tracks;
+  PlugIns plug_ins;
+  ParentTotals parent_totals;
+  clsdirsearch directory_search;
+
+  /// A file of the program's folder.
+  std::string file(std::string_view name) const;
+
+  /// Told when a run has finished, with its tables still in place. A view's
+  /// notice: nothing of the program depends on it.
+  std::function<void(RunKind kind)> onRunFinished;
+};
+
+}  // namespace tavr

@@ -1,0 +1,136 @@
+#include "engine/start.h"
+
+#include <vector>
+
+#include "basic/like.h"
+#include "basic/number.h"
+#include "basic/resume_next.h"
+#include "basic/text.h"
+#include "engine/runs.h"
+#include "engine/task_table.h"
+#include "services/access.h"
+#include "services/settings_keys.h"
+
+namespace tavr {
+
+namespace {
+
+// Reading an element that is not there raises, and inside a test that counts as
+// met: a line without a second word behaves as if the second word had matched.
+const std::string& element(const std::vector<std::string>& words, std::size_t index) {
+  if (index >= words.size()) throw RuntimeError{kErrSubscript, "Subscript out of range"};
+  return words[index];
+}
+
+void save(Program& program, std::string_view key, std::string_view name, std::string_view text) {
+  program.registry.fSaveString(Root::kLocalMachine, key, name, text);
+}
+
+// A task table of fewer than two rows means that it could not be built: the
+// Windows tracks are then chosen. The ten browser rows keep that from happening.
+void chooseDefaults(Program& program) {
+  Form1& form = program.form;
+  if (form.View100.count() >= 2 || form.unattended != 1) return;
+  for (int value = 8; value <= 13; ++value) {
+    save(program, settings::kSelectionKey, numberText(value), "1");
+  }
+  form.Text4.setText("");
+  form.Text4.setText("1");
+}
+
+// Two separate tests, not alternatives: without a mode of its own the line runs
+// Test and then Erase.
+void runUnattended(Program& program) {
+  Form1& form = program.form;
+  form.visible = false;
+  if (form.parentMode == 0) {
+    if (form.resultMode == 1) {
+      form.chameleonButton5.click();
+    } else {
+      form.chameleonButton6.click();
+    }
+  }
+  if (form.resultMode == 0) {
+    if (form.parentMode == 1) {
+      form.chameleonButton6.click();
+    } else {
+      form.chameleonButton5.click();
+    }
+  }
+  save(program, settings::kLiveKey, "ic", "1");
+  throw ProcessEnd{};
+}
+
+}  // namespace
+
+void Form_Initialize(Program& program, std::string_view command) {
+  Form1& form = program.form;
+  const std::string line(Trim(LCase(command)));
+  form.hasArguments = !line.empty();
+  if (!form.hasArguments) return;
+  ResumeNext on;
+  const std::vector<std::string> words = Split(line, '-');
+  const auto first = [&](std::string_view word) {
+    return on.met([&] { return element(words, 0) == word; });
+  };
+  const auto second = [&](std::string_view word) {
+    return on.met([&] { return element(words, 1) == word; });
+  };
+  if (first("w4")) {
+    form.unattended = 1;
+    form.parentMode = second("c4") ? 2 : 1;
+    return;
+  }
+  if (on.met([&] { return Like(element(words, 0), "t"); })) {
+    form.unattended = 1;
+    if (second("c")) form.resultMode = 1;
+    form.visible = false;
+  }
+  if (line == "d") {
+    form.unattended = 5;
+    form.dialog_mode = "d";
+  }
+  if (first("w2")) {
+    form.unattended = 1;
+    if (second("c2")) form.resultMode = 2;
+  } else if (first("w3")) {
+    form.unattended = 1;
+    if (second("c3")) {
+      form.resultMode = 2;
+      form.hideOnLoad = 1;
+    }
+  } else if (line == "s") {
+    form.minimised = true;
+    form.Text11.setText("s");
+  }
+}
+
+void Form_Load(Program& program) {
+  Form1& form = program.form;
+  if (form.hideOnLoad == 1) form.visible = false;
+  program.directory_search.found = [&form](const std::string& name, const std::string&) {
+    search_found(form.List6, name);
+  };
+  form.stopflag = 0;
+  form.grant_failed = !GrantKeyAccess(program.machine, Root::kLocalMachine, settings::kSelectionKey,
+                                      program.machine.environment.get("UserName"));
+  form.Text4.setText("1");
+  chooseDefaults(program);
+  if (form.unattended == 1) runUnattended(program);
+}
+
+void Text15_Change(Program& program) {
+  Form1& form = program.form;
+  if (form.resultMode == 1) {
+    form.chameleonButton5.click();
+  } else {
+    form.chameleonButton6.click();
+  }
+  save(program, settings::kWizardStatisticsKey, "rcount", form.txtregcount.text());
+  save(program, settings::kWizardStatisticsKey, "count", form.txtfilecount.text());
+  save(program, settings::kWizardStatisticsKey, "size", form.txtfilesize.text());
+  save(program, settings::kLiveKey, "ic", "1");
+  throw ProcessEnd{};
+}
+
+}  // namespace tavr

@@ -1,0 +1,46 @@
+// A report list: the task table View100 and the plug-in list View1.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+
+namespace tavr {
+
+/// Dark red, as the row of a finished track shows its count.
+inline constexpr std::uint32_t kDarkRed = 192;
+
+struct ListCell {
+  std::string text;
+  std::string report_icon;
+  bool bold = false;
+  std::uint32_t fore_color = 0;
+};
+
+struct ListRow {
+  std::string text;
+  std::string small_icon;
+  bool checked = false;
+  std::array<ListCell, 2> cells;  ///< sub-items 1 and 2; both exist from the start
+
+  /// Sub-item 1 or 2.
+  ListCell& subItem(int column) { return cells.at(static_cast<std::size_t>(column - 1)); }
+};
+
+/// Rows are numbered from 1.
+class ListView {
+ public:
+  void clear() { rows_.clear(); }
+  ListRow& add(std::string_view text, std::string_view small_icon);
+  int count() const { return static_cast<int>(rows_.size()); }
+  /// Raises 35600 for a row that does not exist. `row` is rounded, as an index
+  /// of any number is.
+  ListRow& item(double row);
+
+ private:
+  std::deque<ListRow> rows_;
+};
+
+}  // namespace tavr

@@ -1,0 +1,58 @@
+// The results list View200: one row per track found, up to millions of them.
+// Rows live in large blocks, so a row costs its text and a few bytes.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <initializer_list>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace tavr {
+
+class ResultList {
+ public:
+  void clear();
+  std::size_t count() const { return count_; }
+
+  /// A new last row with the text of the pieces, joined.
+  void add(std::initializer_list<std::string_view> pieces);
+  /// The same, greyed, and scrolled into view.
+  void addGhosted(std::initializer_list<std::string_view> pieces);
+
+  /// Scrolls the last row into view. Raises 35600 on an empty list.
+  void ensureLastVisible();
+
+  /// Rows are numbered from 1. Raises 35600 for a row that does not exist.
+  std::string_view text(std::size_t row) const;
+  bool ghosted(std::size_t row) const;
+
+  /// The row last scrolled into view, 0 for none.
+  std::size_t ensuredRow() const { return ensured_row_; }
+
+  /// Called with the rows still in place, before they are cleared.
+  std::function<void()> onClear;
+
+ private:
+  struct Row {
+    const char* text = nullptr;
+    std::uint32_t length = 0;
+    bool ghosted = false;
+  };
+  static constexpr std::size_t kRowsPerBlock = 4096;
+  static constexpr std::size_t kTextBlock = std::size_t{1} << 18;
+
+  const Row& row(std::size_t number) const;
+  char* allocate(std::size_t length);
+
+  std::vector<std::unique_ptr<Row[]>> rows_;
+  std::vector<std::unique_ptr<char[]>> texts_;
+  std::size_t count_ = 0;
+  std::size_t free_ = 0;  // bytes left in the last text block
+  char* next_ = nullptr;
+  std::size_t ensured_row_ = 0;
+};
+
+}  // namespace tavr

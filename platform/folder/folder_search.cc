@@ -1,0 +1,188 @@
+// The searching half of FolderFiles: FindFirstFile in its several uses.
+#include <fcntl.h>
+
+#include <cerrno>
+#include <utility>
+
+#include "basic/text.h"
+#include "basic/utf.h"
+#include "platform/folder/dos_attributes.h"
+#include "platform/folder/folder_files.h"
+#include "platform/folder/host_error.h"
+
+namespace tavr::folder {
+
+namespace {
+
+// The text of a path behind its last separator, as it was written.
+std::string_view lastPart(std::string_view path) {
+  path = untilNul(path);
+  return path.substr(path.find_last_of("\\/") + 1);
+}
+
+// Only wildcards are let through: a pattern with a colon or a bar is no name.
+bool isPatternText(std::string_view pattern) {
+  for (const char c : pattern) {
+    const char text[] = {c};
+    const std::string_view one(text, 1);
+    if (!hasNameCharacters(one) && !hasWildcard(one)) return false;
+  }
+  return true;
+}
+
+void describe(std::string_view name, const struct statx& facts, FoundFile& found) {
+  found.name = name;
+  found.attributes = modeAttributes(facts);
+  const std::uint64_t size = S_ISDIR(facts.stx_mode) ? 0 : facts.stx_size;
+  found.size_high = static_cast<std::uint32_t>(size >> 32);
+  found.size_low = static_cast<std::uint32_t>(size);
+  found.created = creationTime(facts);
+  found.accessed = fileTime(facts.stx_atime);
+  found.written = fileTime(facts.stx_mtime);
+}
+
+void describeNode(const Node& node, FoundFile& found) {
+  describe(node.shownName(), node.facts, found);
+  found.attributes |= hiddenAndSystem(node.folder->fd(), node.name.c_str());
+}
+
+bool dotEntry(const FolderTree& tree, const FolderRef& folder, std::string_view name,
+              FoundFile& found) {
+  Node node;
+  if (!tree.child(folder->parent, folder->name.c_str(), node)) return false;
+  describeNode(node, found);
+  found.name = name;
+  return true;
+}
+
+}  // namespace
+
+// One FindFirstFile: the open folder and what of it can match.
+struct FolderFiles::Search {
+  FolderRef folder;
+  NamePattern pattern{""};
+};
+
+Status FolderFiles::beginSearch(std::string_view path, Search& search) {
+  if (const Status fault = find_fault_.hit()) return fault;
+  Place place;
+  if (const Status status = tree_.placeOfSearch(path, place)) return status;
+  if (place.is_drive || place.ends_in_separator) return kFileNotFound;
+  if (!isPatternText(place.name)) return kInvalidName;
+  // The trailing dots that the path has lost mean something in a pattern.
+  const std::string_view written = lastPart(path);
+  search.pattern = NamePattern(withoutTrailingDots(written) == place.name ? written : place.name);
+  search.folder = place.folder;
+  return entries_.read(search.folder->fd(), &search.pattern);
+}
+
+Status FolderFiles::find(std::string_view path, std::vector<FoundFile>& found) {
+  found.clear();
+  Search search;
+  if (const Status status = beginSearch(path, search)) return status;
+  const FolderRef& folder = search.folder;
+  const bool is_drive = folder->parent->parent == nullptr;  // a root has no "." and ".."
+  for (const std::string_view dots : {".", ".."}) {
+    FoundFile entry;
+    if (is_drive || !search.pattern.matches(dots)) continue;
+    if (dotEntry(tree_, dots == "." ? folder : folder->parent, dots, entry)) {
+      found.push_back(std::move(entry));
+    }
+  }
+  for (const Entry& entry : entries_.entries()) {
+    Node node;
+    if (!entry.matches || !tree_.child(folder, entries_.name(entry).data(), node)) continue;
+    describeNode(node, found.emplace_back());
+  }
+  return found.empty() ? kFileNotFound : kSuccess;
+}
+
+Status FolderFiles::findFirst(std::string_view path, FoundFile& found) {
+  found = {};
+  if (hasWildcard(lastPart(path))) {
+    std::vector<FoundFile> all;
+    const Status status = find(path, all);
+    if (status == kSuccess) found = std::move(all.front());
+    return status;
+  }
+  if (const Status fault = find_fault_.hit()) return fault;
+  Place place;
+  if (const Status status = tree_.place(path, place)) return status;
+  if (place.is_drive || place.ends_in_separator) return kFileNotFound;
+  Node node;
+  if (const Status status = tree_.lookup(place, node)) return status;
+  describeNode(node, found);
+  return kSuccess;
+}
+
+// A mask that is not the plain name of a pattern ("sub\*.txt", ".."): the files
+// are those of the search that its text stands for.
+void FolderFiles::listFound(std::string_view folder, std::string_view mask,
+                            FolderListing& listing) {
+  std::vector<FoundFile> found;
+  if (find(std::string(folder).append(mask), found) != kSuccess) return;
+  for (FoundFile& file : found) {
+    if ((file.attributes & kAttrDirectory) == 0) listing.files.push_back(std::move(file));
+  }
+}
+
+void FolderFiles::listFolder(std::string_view folder, std::string_view mask,
+                             FolderListing& listing) {
+  listing.subfolders.clear();
+  listing.files.clear();
+  mask = untilNul(mask);
+  const bool plain = !withoutTrailingDots(mask).empty() && isPatternText(mask);
+  if (!plain && !mask.empty()) listFound(folder, mask, listing);
+  if (find_fault_.hit() != kSuccess) {
+    listing = {};
+    return;
+  }
+  const std::size_t length = utf16Length(folder);
+  const bool lists_folders = length + 3 < kMaxPath;
+  const bool lists_files = plain && length + utf16Length(mask) < kMaxPath;
+  FolderRef opened;
+  if ((!lists_folders && !lists_files) || tree_.openFolder(folder, opened) != kSuccess) return;
+  const NamePattern pattern(mask);
+  if (entries_.read(opened->fd(), lists_files ? &pattern : nullptr) != kSuccess) return;
+
+  listing.files.reserve(entries_.entries().size());
+  for (const Entry& entry : entries_.entries()) {
+    const std::string_view name = entries_.name(entry);
+    Node node;
+    if (entry.kind == EntryKind::kToBeSeen && !tree_.child(opened, name.data(), node)) continue;
+    const bool is_folder =
+        entry.kind == EntryKind::kFolder || (entry.kind == EntryKind::kToBeSeen && node.isFolder());
+    if (is_folder) {
+      if (lists_folders) listing.subfolders.emplace_back(name);
+      continue;
+    }
+    if (!entry.matches) continue;
+    if (entry.kind == EntryKind::kFile &&
+        (::statx(opened->fd(), name.data(), AT_SYMLINK_NOFOLLOW, kWantedFacts, &node.facts) != 0 ||
+         !S_ISREG(node.facts.stx_mode))) {
+      continue;  // gone or replaced since it was read
+    }
+    describe(name, node.facts, listing.files.emplace_back());
+  }
+}
+
+Status FolderFiles::subfolders(std::string_view folder, std::vector<std::string>& names) {
+  names.clear();
+  FolderRef opened;
+  if (const Status status = tree_.openFolder(folder, opened)) {
+    return status == kFileNotFound ? kPathNotFound : status;
+  }
+  if (const Status status = entries_.read(opened->fd(), nullptr)) return status;
+  for (const Entry& entry : entries_.entries()) {
+    const std::string_view name = entries_.name(entry);
+    Node node;
+    if (entry.kind != EntryKind::kFolder &&
+        (!tree_.child(opened, name.data(), node) || !node.isFolder())) {
+      continue;
+    }
+    names.emplace_back(name);
+  }
+  return kSuccess;
+}
+
+}  // namespace tavr::folder

@@ -1,0 +1,125 @@
+// What of the Linux folder is on the machine, and the way to it: drives are the
+// folders with a letter for a name, and every component of a path is opened by
+// itself beneath the one before. Nothing is ever opened by a path that Linux
+// would walk, so nothing outside the machine folder is reached.
+//
+// A link is taken apart here: it counts as what it leads to when that is a file
+// or folder on one of the drives, and does not exist otherwise. Pipes, sockets
+// and devices do not exist either.
+//
+// The folders on the way to the last path asked for are kept open, as a search
+// and the deletions after it go from one folder to its neighbour. A folder that
+// somebody else moves away meanwhile stays the folder it was for as long.
+#pragma once
+
+#include <sys/stat.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/folder/file_descriptor.h"
+#include "platform/folder/windows_path.h"
+#include "platform/win_error.h"
+
+namespace tavr::folder {
+
+/// An open folder of the machine, or the machine folder itself (no parent).
+struct Folder {
+  FileDescriptor handle;
+  std::shared_ptr<const Folder> parent;  // where it really lies, links resolved
+  std::string name;                      // its name there
+  int fd() const { return handle.get(); }
+};
+using FolderRef = std::shared_ptr<const Folder>;
+
+/// A file or folder that exists. One that was reached by a link is where the
+/// link leads; the link itself is remembered.
+struct Node {
+  FolderRef folder;
+  std::string name;
+  struct statx facts {};
+  FolderRef link_folder;  // null: no link
+  std::string link_name;
+
+  bool isFolder() const { return S_ISDIR(facts.stx_mode); }
+  bool isLink() const { return link_folder != nullptr; }
+  const std::string& shownName() const { return isLink() ? link_name : name; }
+};
+
+/// Where a path's last component is looked for; the component need not exist.
+struct Place {
+  FolderRef folder;
+  std::string name;                // "C" in the machine folder for a drive
+  bool is_drive = false;           // the path is a drive's root
+  bool ends_in_separator = false;  // only a folder can be meant
+  bool remembered = false;         // `folder` was already open
+};
+
+class FolderTree {
+ public:
+  /// `app_path` is the program's folder: the current directory at first, and
+  /// the drive of paths that begin with "\". Raises UnusableMachine when the
+  /// directory cannot be opened.
+  FolderTree(const std::string& directory, std::string app_path);
+
+  /// The machine folder's own path on Linux, links resolved.
+  const std::string& realPath() const { return real_path_; }
+
+  Status parse(std::string_view text, WindowsPath& path) const;
+
+  /// 3: a folder on the way is missing, or the text is too long; 123.
+  Status place(std::string_view text, Place& place);
+  /// The same with the folder opened anew, as a search of it needs.
+  Status placeOfSearch(std::string_view text, Place& place);
+
+  /// The file or folder at a place. 2: missing; 3: a missing drive; 123: no
+  /// file can have that name.
+  Status lookup(Place& place, Node& node);
+
+  /// place() and lookup().
+  Status locate(std::string_view text, Node& node);
+
+  /// The folder of a path, opened anew. 3: no such folder.
+  Status openFolder(std::string_view text, FolderRef& folder);
+  Status openFolder(const Node& node, FolderRef& folder) const;
+
+  /// An entry of an open folder by its exact name; false when that is not on
+  /// the machine.
+  bool child(const FolderRef& folder, const char* name, Node& node) const;
+
+  /// 2, 3: no such folder; 267: a file.
+  Status setCurrentDirectory(std::string_view text);
+
+  /// The letters of the drives, ascending.
+  std::string drives() const;
+
+  /// Closes the folders kept open; needed after folders have been removed.
+  void forget();
+
+ private:
+  struct Step {
+    std::string component;
+    FolderRef folder;
+  };
+
+  Status walk(const std::vector<std::string>& components, bool& remembered);
+  void dropFrom(std::size_t step);
+  Status walkFrom(std::size_t kept, const std::vector<std::string>& components);
+  bool rememberedPlace(std::string_view text, Place& place) const;
+  bool hasChanged(Place& place);
+  bool find(const FolderRef& folder, const std::string& name, Node& node) const;
+  bool findOtherCase(const FolderRef& folder, const std::string& name, Node& node) const;
+  Status openChild(const FolderRef& folder, const std::string& name, FolderRef& child) const;
+  bool follow(const FolderRef& folder, const char* name, Node& node) const;
+  bool readLink(FolderRef& folder, const char* name, std::vector<std::string>& ahead) const;
+
+  std::string real_path_;
+  FolderRef root_;
+  PathBase base_;
+  std::vector<Step> chain_;  // the drive, then one folder a component
+  std::string chain_text_;   // a full text of the chain's last folder, with its "\", or empty
+};
+
+}  // namespace tavr::folder
