@@ -80,11 +80,11 @@ constexpr KeyUse kC7Keys[] = {
     {keys, kLowDomGranted},
     {grant, "Software\\microsoft\\internet explorer\\LowRegistry\\DOMStorage\\{subkey}"},
     {tree, "software\\microsoft\\internet explorer\\LowRegistry\\DOMStorage\\{subkey}"},
-    {key, kLowDom},
+    {key, "software\\microsoft\\internet explorer\\LowRegistry\\DOMStorage\\{subkey}"},
     {grant, kDom},
     {keys, kDom},
     {tree, "Software\\Microsoft\\Internet Explorer\\DOMStorage\\{subkey}"},
-    {key, kDom},
+    {key, "Software\\Microsoft\\Internet Explorer\\DOMStorage\\{subkey}"},
 };
 constexpr KeyUse kT7Keys[] = {
     {grant, kLowDomGranted}, {keys, kLowDomGranted}, {grant, kDom}, {keys, kDom}};

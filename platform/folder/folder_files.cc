@@ -54,7 +54,7 @@ bool sameFile(int open_file, const Node& node) {
 
 }  // namespace
 
-FolderFiles::FolderFiles(FolderTree& tree, std::vector<std::string> locked, Faults& faults)
+FolderFiles::FolderFiles(FolderTree& tree, const std::vector<std::string>& locked, Faults& faults)
     : tree_(tree),
       locked_(tree, locked),
       find_fault_(faults.point("FindFirstFile")),

@@ -19,7 +19,7 @@ class FolderFiles : public Files {
  public:
   /// `locked`: full Windows paths of the files that somebody else holds open.
   /// The tree and the faults outlive this object.
-  FolderFiles(FolderTree& tree, std::vector<std::string> locked, Faults& faults);
+  FolderFiles(FolderTree& tree, const std::vector<std::string>& locked, Faults& faults);
 
   Status find(std::string_view path, std::vector<FoundFile>& found) override;
   Status findFirst(std::string_view path, FoundFile& found) override;
@@ -39,6 +39,7 @@ class FolderFiles : public Files {
   Status beginSearch(std::string_view path, Search& search);
   Status openHost(std::string_view path, OpenMode mode, FileDescriptor& file);
   Status copyTo(int source, std::string_view to);
+  void listEntries(const FolderRef& folder, FolderListing& listing) const;
   void listFound(std::string_view folder, std::string_view mask, FolderListing& listing);
 
   FolderTree& tree_;

@@ -46,6 +46,11 @@ void describeNode(const Node& node, FoundFile& found) {
   found.attributes |= hiddenAndSystem(node.folder->fd(), node.name.c_str());
 }
 
+bool plainFileFacts(const Folder& folder, const char* name, struct statx& facts) {
+  return ::statx(folder.fd(), name, AT_SYMLINK_NOFOLLOW, kWantedFacts, &facts) == 0 &&
+         S_ISREG(facts.stx_mode);
+}
+
 bool dotEntry(const FolderTree& tree, const FolderRef& folder, std::string_view name,
               FoundFile& found) {
   Node node;
@@ -144,25 +149,28 @@ void FolderFiles::listFolder(std::string_view folder, std::string_view mask,
   if ((!lists_folders && !lists_files) || tree_.openFolder(folder, opened) != kSuccess) return;
   const NamePattern pattern(mask);
   if (entries_.read(opened->fd(), lists_files ? &pattern : nullptr) != kSuccess) return;
+  listEntries(opened, listing);
+  if (!lists_folders) listing.subfolders.clear();
+}
 
+void FolderFiles::listEntries(const FolderRef& folder, FolderListing& listing) const {
   listing.files.reserve(entries_.entries().size());
   for (const Entry& entry : entries_.entries()) {
     const std::string_view name = entries_.name(entry);
+    EntryKind kind = entry.kind;
     Node node;
-    if (entry.kind == EntryKind::kToBeSeen && !tree_.child(opened, name.data(), node)) continue;
-    const bool is_folder =
-        entry.kind == EntryKind::kFolder || (entry.kind == EntryKind::kToBeSeen && node.isFolder());
-    if (is_folder) {
-      if (lists_folders) listing.subfolders.emplace_back(name);
-      continue;
+    if (kind == EntryKind::kToBeSeen) {
+      if (!tree_.child(folder, name.data(), node)) continue;
+      kind = node.isFolder() ? EntryKind::kFolder : EntryKind::kFile;
+    } else if (kind == EntryKind::kFile) {
+      // Gone or replaced since it was read: as if it had never been there.
+      if (!plainFileFacts(*folder, name.data(), node.facts)) continue;
     }
-    if (!entry.matches) continue;
-    if (entry.kind == EntryKind::kFile &&
-        (::statx(opened->fd(), name.data(), AT_SYMLINK_NOFOLLOW, kWantedFacts, &node.facts) != 0 ||
-         !S_ISREG(node.facts.stx_mode))) {
-      continue;  // gone or replaced since it was read
+    if (kind == EntryKind::kFolder) {
+      listing.subfolders.emplace_back(name);
+    } else if (entry.matches) {
+      describe(name, node.facts, listing.files.emplace_back());
     }
-    describe(name, node.facts, listing.files.emplace_back());
   }
 }
 

@@ -1,52 +1,20 @@
-// What of the Linux folder is on the machine, and the way to it: drives are the
-// folders with a letter for a name, and every component of a path is opened by
-// itself beneath the one before. Nothing is ever opened by a path that Linux
-// would walk, so nothing outside the machine folder is reached.
-//
-// A link is taken apart here: it counts as what it leads to when that is a file
-// or folder on one of the drives, and does not exist otherwise. Pipes, sockets
-// and devices do not exist either.
+// The way to the files of the machine folder by Windows paths: every component
+// is opened by itself beneath the one before (folder_node.h).
 //
 // The folders on the way to the last path asked for are kept open, as a search
 // and the deletions after it go from one folder to its neighbour. A folder that
 // somebody else moves away meanwhile stays the folder it was for as long.
 #pragma once
 
-#include <sys/stat.h>
-
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "platform/folder/file_descriptor.h"
+#include "platform/folder/folder_node.h"
 #include "platform/folder/windows_path.h"
 #include "platform/win_error.h"
 
 namespace tavr::folder {
-
-/// An open folder of the machine, or the machine folder itself (no parent).
-struct Folder {
-  FileDescriptor handle;
-  std::shared_ptr<const Folder> parent;  // where it really lies, links resolved
-  std::string name;                      // its name there
-  int fd() const { return handle.get(); }
-};
-using FolderRef = std::shared_ptr<const Folder>;
-
-/// A file or folder that exists. One that was reached by a link is where the
-/// link leads; the link itself is remembered.
-struct Node {
-  FolderRef folder;
-  std::string name;
-  struct statx facts {};
-  FolderRef link_folder;  // null: no link
-  std::string link_name;
-
-  bool isFolder() const { return S_ISDIR(facts.stx_mode); }
-  bool isLink() const { return link_folder != nullptr; }
-  const std::string& shownName() const { return isLink() ? link_name : name; }
-};
 
 /// Where a path's last component is looked for; the component need not exist.
 struct Place {
@@ -62,10 +30,10 @@ class FolderTree {
   /// `app_path` is the program's folder: the current directory at first, and
   /// the drive of paths that begin with "\". Raises UnusableMachine when the
   /// directory cannot be opened.
-  FolderTree(const std::string& directory, std::string app_path);
+  FolderTree(const std::string& directory, const std::string& app_path);
 
   /// The machine folder's own path on Linux, links resolved.
-  const std::string& realPath() const { return real_path_; }
+  const std::string& realPath() const { return root_.realPath(); }
 
   Status parse(std::string_view text, WindowsPath& path) const;
 
@@ -83,11 +51,13 @@ class FolderTree {
 
   /// The folder of a path, opened anew. 3: no such folder.
   Status openFolder(std::string_view text, FolderRef& folder);
-  Status openFolder(const Node& node, FolderRef& folder) const;
+  Status openFolder(const Node& node, FolderRef& folder) const { return root_.open(node, folder); }
 
   /// An entry of an open folder by its exact name; false when that is not on
   /// the machine.
-  bool child(const FolderRef& folder, const char* name, Node& node) const;
+  bool child(const FolderRef& folder, const char* name, Node& node) const {
+    return root_.child(folder, name, node);
+  }
 
   /// 2, 3: no such folder; 267: a file.
   Status setCurrentDirectory(std::string_view text);
@@ -109,14 +79,8 @@ class FolderTree {
   Status walkFrom(std::size_t kept, const std::vector<std::string>& components);
   bool rememberedPlace(std::string_view text, Place& place) const;
   bool hasChanged(Place& place);
-  bool find(const FolderRef& folder, const std::string& name, Node& node) const;
-  bool findOtherCase(const FolderRef& folder, const std::string& name, Node& node) const;
-  Status openChild(const FolderRef& folder, const std::string& name, FolderRef& child) const;
-  bool follow(const FolderRef& folder, const char* name, Node& node) const;
-  bool readLink(FolderRef& folder, const char* name, std::vector<std::string>& ahead) const;
 
-  std::string real_path_;
-  FolderRef root_;
+  MachineRoot root_;
   PathBase base_;
   std::vector<Step> chain_;  // the drive, then one folder a component
   std::string chain_text_;   // a full text of the chain's last folder, with its "\", or empty

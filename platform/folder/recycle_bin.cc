@@ -21,6 +21,11 @@ std::vector<std::string> namesIn(const Folder& folder) {
   return names;
 }
 
+std::string below(const std::string& path, const std::string& name) {
+  std::string text = path;
+  return text.append("\\").append(name);
+}
+
 bool isItem(std::string_view name) { return sameText(name.substr(0, 2), "$R"); }
 
 bool isRecord(std::string_view name) { return sameText(name.substr(0, 2), "$I"); }
@@ -56,7 +61,7 @@ std::vector<RecycleBin::Bin> RecycleBin::bins() {
       Node node;
       FolderRef bin;
       if (!tree_.child(folder, name.c_str(), node) || !node.isFolder()) continue;
-      if (tree_.openFolder(node, bin) == kSuccess) found.push_back({path + "\\" + name, bin});
+      if (tree_.openFolder(node, bin) == kSuccess) found.push_back({below(path, name), bin});
     }
   }
   return found;
@@ -82,7 +87,7 @@ bool RecycleBin::removeEntry(const FolderRef& folder, const std::string& path,
                              const std::string& name) {
   Node node;
   if (!tree_.child(folder, name.c_str(), node)) return false;
-  const std::string own_path = path + "\\" + name;
+  const std::string own_path = below(path, name);
   if (node.isLink() || !node.isFolder()) {
     return !locked_.holds(own_path) && ::unlinkat(folder->fd(), name.c_str(), 0) == 0;
   }
