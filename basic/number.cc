@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 #include "basic/resume_next.h"
 #include "basic/text.h"
@@ -76,17 +77,21 @@ std::string withExponent(std::string text) {
   return mantissa + text.substr(e);
 }
 
-std::string plainDigits(double value) {
+std::string plainDigits(double value, int exponent) {
   std::array<char, 64> buffer{};
-  const int exponent = value == 0 ? 0 : static_cast<int>(std::floor(std::log10(std::fabs(value))));
-  const int decimals = exponent >= 14 ? 0 : 14 - exponent;
-  std::snprintf(buffer.data(), buffer.size(), "%.*f", decimals, value);
+  std::snprintf(buffer.data(), buffer.size(), "%.*f", 14 - exponent, value);
   std::string text = buffer.data();
   if (text.find('.') != std::string::npos) {
     while (text.back() == '0') text.pop_back();
     if (text.back() == '.') text.pop_back();
   }
-  return text == "-0" ? "0" : text;
+  return text;
+}
+
+// Beyond every double, as a sum of a stored "1e400" is.
+std::string infinityText(double value) {
+  if (std::isnan(value)) return "-1.#IND";
+  return value < 0 ? "-1.#INF" : "1.#INF";
 }
 
 }  // namespace
@@ -108,20 +113,19 @@ double Val(std::string_view raw) {
 }
 
 std::string numberText(double value, char decimal) {
+  if (!std::isfinite(value)) return infinityText(value);
   if (std::fabs(value) < 1e15 && value == std::floor(value)) {
     std::array<char, 24> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(),
                                    static_cast<std::int64_t>(value));
     return {digits.data(), end.ptr};
   }
-  std::string text;
-  if (std::fabs(value) >= 1e15 || std::fabs(value) < 1e-4) {
-    std::array<char, 40> buffer{};
-    std::snprintf(buffer.data(), buffer.size(), "%.14e", value);
-    text = withExponent(buffer.data());
-  } else {
-    text = plainDigits(value);
-  }
+  // The exponent is that of the rounded number: 999999999999999.9 has 15.
+  std::array<char, 40> buffer{};
+  std::snprintf(buffer.data(), buffer.size(), "%.14e", value);
+  const int exponent = std::atoi(std::strchr(buffer.data(), 'e') + 1);
+  std::string text =
+      exponent >= 15 || exponent < -4 ? withExponent(buffer.data()) : plainDigits(value, exponent);
   const std::size_t point = text.find('.');
   if (point != std::string::npos) text[point] = decimal;
   return text;
@@ -132,7 +136,7 @@ std::string Str(double value) { return (value < 0 ? "" : " ") + numberText(value
 std::string formatThousandths(double value, char decimal) {
   const double thousandths = std::round(value * 1000);  // half away from zero
   const double size = std::fabs(thousandths);
-  std::array<char, 64> buffer{};
+  std::array<char, 340> buffer{};  // a double has up to 309 digits
   std::snprintf(buffer.data(), buffer.size(), "%s%.0f%c%03d", thousandths < 0 ? "-" : "",
                 std::floor(size / 1000), decimal, static_cast<int>(std::fmod(size, 1000)));
   return buffer.data();

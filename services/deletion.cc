@@ -18,6 +18,11 @@ constexpr auto kLocalMachine = static_cast<std::uint32_t>(Root::kLocalMachine);
 constexpr std::size_t kBlock = 8192;
 constexpr int kLastPass = 10;
 
+// Most paths hold no "$" at all, which is quicker to see than their lower case.
+bool isRecycled(const std::string& path) {
+  return path.find('$') != std::string::npos && InStr(LCase(path), "$recycle.bin") != 0;
+}
+
 std::unique_ptr<StdRegProv> bindProvider(Machine& machine) {
   auto provider = machine.wmi.bindRegistryProvider(kProviderMoniker);
   if (!provider) throw RuntimeError{kErrNoObject, "Object variable not set"};
@@ -27,7 +32,7 @@ std::unique_ptr<StdRegProv> bindProvider(Machine& machine) {
 }  // namespace
 
 void Deletion::changepermission(std::string& path) {
-  if (InStr(LCase(path), "$recycle.bin") != 0) return;
+  if (isRecycled(path)) return;
   const std::string user = machine_.environment.get("username");
   path = std::string(Trim(path));
   GrantFileAccess(machine_, user, path, kGenericAll);

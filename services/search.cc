@@ -123,21 +123,22 @@ void Search::addFile(std::string_view folder, const FoundFile& file) {
   found_.add(folder, file, sizeOf(file), dates);
 }
 
+// The two conversions stand on the call stack only where somebody reads it.
 Date Search::date(std::uint64_t file_time) {
-  const auto call = stack_.enter(kModule, "FileTimeToDate");
   try {
     return fileTimeToDate(file_time);
   } catch (const RuntimeError& error) {
+    const auto call = stack_.enter(kModule, "FileTimeToDate");
     fReportError(machine_, stack_, error, kModule, "FileTimeToDate", 0);
     return 0;
   }
 }
 
 double Search::sizeOf(const FoundFile& file) {
-  const auto call = stack_.enter(kModule, "FileSizeToDouble");
   try {
     return fileSizeToDouble(file.size_high, file.size_low);
   } catch (const RuntimeError& error) {
+    const auto call = stack_.enter(kModule, "FileSizeToDouble");
     fReportError(machine_, stack_, error, kModule, "FileSizeToDouble", 0);
     return 0;
   }

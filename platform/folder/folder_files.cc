@@ -78,13 +78,24 @@ Status FolderFiles::attributes(std::string_view path, std::uint32_t& out) {
 
 Status FolderFiles::setAttributes(std::string_view path, std::uint32_t attributes) {
   if (const Status fault = set_attributes_fault_.hit()) return fault;
+  writable_folders_.clear();
   Node node;
   if (const Status status = tree_.locate(path, node)) return status;
   return setDosAttributes(node.folder->fd(), node.name.c_str(), node.facts, attributes);
 }
 
+bool FolderFiles::removeWritable(std::string_view path) {
+  const std::string_view folder = path.substr(0, path.rfind('\\') + 1);
+  if (!writable_folders_.contains(folder)) return false;
+  Place place;
+  return tree_.place(path, place) == kSuccess && hasNameCharacters(place.name) && !place.is_drive &&
+         !place.ends_in_separator && !locked_.holds(path) &&
+         ::unlinkat(place.folder->fd(), place.name.c_str(), 0) == 0;
+}
+
 Status FolderFiles::remove(std::string_view path) {
   if (const Status fault = delete_fault_.hit()) return fault;
+  if (removeWritable(path)) return kSuccess;
   Node node;
   if (const Status status = tree_.locate(path, node)) return status;
   if (node.isFolder()) return kAccessDenied;
@@ -96,6 +107,7 @@ Status FolderFiles::remove(std::string_view path) {
 }
 
 Status FolderFiles::openHost(std::string_view path, OpenMode mode, FileDescriptor& file) {
+  if (mode != OpenMode::kInput) writable_folders_.clear();
   Place place;
   if (const Status status = tree_.place(path, place)) return status;
   Node node;

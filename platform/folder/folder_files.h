@@ -1,7 +1,9 @@
 // The files of a machine folder.
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,11 +41,17 @@ class FolderFiles : public Files {
   Status beginSearch(std::string_view path, Search& search);
   Status openHost(std::string_view path, OpenMode mode, FileDescriptor& file);
   Status copyTo(int source, std::string_view to);
-  void listEntries(const FolderRef& folder, FolderListing& listing) const;
+  /// True when every file that was listed is plain and writable.
+  bool listEntries(const FolderRef& folder, FolderListing& listing) const;
+  bool removeWritable(std::string_view path);
   void listFound(std::string_view folder, std::string_view mask, FolderListing& listing);
 
   FolderTree& tree_;
   LockedFiles locked_;
+  // Folders, by the text they were searched with, in which the last listing saw
+  // plain writable files only: a deletion there need not look at each again.
+  // Whatever the program itself changes empties it.
+  std::set<std::string, std::less<>> writable_folders_;
   EntryList entries_;  // of the folder listed last; kept for its memory
   Faults::Point& find_fault_;
   Faults::Point& get_attributes_fault_;

@@ -149,17 +149,24 @@ void FolderFiles::listFolder(std::string_view folder, std::string_view mask,
   if ((!lists_folders && !lists_files) || tree_.openFolder(folder, opened) != kSuccess) return;
   const NamePattern pattern(mask);
   if (entries_.read(opened->fd(), lists_files ? &pattern : nullptr) != kSuccess) return;
-  listEntries(opened, listing);
+  const bool writable = listEntries(opened, listing) && lists_files && mask == "*.*";
+  if (writable) {
+    writable_folders_.emplace(folder);
+  } else if (const auto known = writable_folders_.find(folder); known != writable_folders_.end()) {
+    writable_folders_.erase(known);
+  }
   if (!lists_folders) listing.subfolders.clear();
 }
 
-void FolderFiles::listEntries(const FolderRef& folder, FolderListing& listing) const {
+bool FolderFiles::listEntries(const FolderRef& folder, FolderListing& listing) const {
   listing.files.reserve(entries_.entries().size());
+  bool all_writable = true;
   for (const Entry& entry : entries_.entries()) {
     const std::string_view name = entries_.name(entry);
     EntryKind kind = entry.kind;
     Node node;
     if (kind == EntryKind::kToBeSeen) {
+      all_writable = false;
       if (!tree_.child(folder, name.data(), node)) continue;
       kind = node.isFolder() ? EntryKind::kFolder : EntryKind::kFile;
     } else if (kind == EntryKind::kFile) {
@@ -170,8 +177,10 @@ void FolderFiles::listEntries(const FolderRef& folder, FolderListing& listing) c
       listing.subfolders.emplace_back(name);
     } else if (entry.matches) {
       describe(name, node.facts, listing.files.emplace_back());
+      all_writable = all_writable && (node.facts.stx_mode & S_IWUSR) != 0;
     }
   }
+  return all_writable;
 }
 
 Status FolderFiles::subfolders(std::string_view folder, std::vector<std::string>& names) {

@@ -1,0 +1,140 @@
+#include "tests/support/watched_program.h"
+
+#include <algorithm>
+
+#include "basic/resume_next.h"
+#include "engine/runs.h"
+#include "engine/start.h"
+
+namespace tavr::testing {
+
+namespace {
+
+// The machine with three of its services exchanged.
+Machine watched(Machine& m, Dialogs& dialogs, Events& events, Files& files) {
+  return {m.registry,  m.wmi,    m.ini,   files,    m.processes, m.url_cache, m.shell,
+          m.event_log, m.parent, m.clock, m.locale, events,      dialogs,     m.environment};
+}
+
+bool endsProcess(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const ProcessEnd&) {
+    return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+int RecordingDialogs::messageBox(std::string_view text, std::uint32_t flags,
+                                 std::string_view title) {
+  asked.push_back({std::string(text), flags, std::string(title)});
+  return answer;
+}
+
+void HookedEvents::when(std::function<bool()> condition, std::function<void()> action) {
+  actions_.emplace_back(std::move(condition), std::move(action));
+}
+
+void HookedEvents::next(std::function<void()> action) {
+  when([] { return true; }, std::move(action));
+}
+
+// An action may pump itself, and so come back here: it is taken out first.
+void HookedEvents::doEvents() {
+  ++pumps;
+  const auto due =
+      std::find_if(actions_.begin(), actions_.end(), [](const auto& entry) { return entry.first(); });
+  if (due != actions_.end()) {
+    const std::function<void()> action = std::move(due->second);
+    actions_.erase(due);
+    action();
+  }
+  pump_.doEvents();
+}
+
+Status RecordingFiles::find(std::string_view path, std::vector<FoundFile>& out) {
+  return files_.find(path, out);
+}
+Status RecordingFiles::findFirst(std::string_view path, FoundFile& out) {
+  return files_.findFirst(path, out);
+}
+void RecordingFiles::listFolder(std::string_view folder, std::string_view mask,
+                                FolderListing& listing) {
+  files_.listFolder(folder, mask, listing);
+}
+Status RecordingFiles::attributes(std::string_view path, std::uint32_t& out) {
+  return files_.attributes(path, out);
+}
+Status RecordingFiles::setAttributes(std::string_view path, std::uint32_t attributes) {
+  attributes_set.emplace_back(path, attributes);
+  return files_.setAttributes(path, attributes);
+}
+Status RecordingFiles::remove(std::string_view path) {
+  removed.emplace_back(path);
+  return files_.remove(path);
+}
+OpenedFile RecordingFiles::open(std::string_view path, OpenMode mode) {
+  opened.emplace_back(path, mode);
+  return files_.open(path, mode);
+}
+Status RecordingFiles::copy(std::string_view from, std::string_view to) {
+  return files_.copy(from, to);
+}
+bool RecordingFiles::canOpen(std::string_view path) { return files_.canOpen(path); }
+Status RecordingFiles::setCurrentDirectory(std::string_view path) {
+  return files_.setCurrentDirectory(path);
+}
+Status RecordingFiles::subfolders(std::string_view folder, std::vector<std::string>& names) {
+  return files_.subfolders(folder, names);
+}
+
+int RecordingFiles::openings(std::string_view path, OpenMode mode) const {
+  return static_cast<int>(std::count(opened.begin(), opened.end(),
+                                     std::pair<std::string, OpenMode>(path, mode)));
+}
+
+WatchedProgram::WatchedProgram(TestMachine& test)
+    : events(test.machine().events),
+      files(test.machine().files),
+      machine(watched(test.machine(), dialogs, events, files)),
+      program(machine),
+      form(program.form) {}
+
+bool WatchedProgram::start(std::string_view arguments) {
+  Form_Initialize(program, arguments);
+  return endsProcess([&] { Form_Load(program); });
+}
+
+bool WatchedProgram::run(RunKind kind) {
+  const Button& button =
+      kind == RunKind::erase ? form.chameleonButton5 : form.chameleonButton6;
+  return endsProcess([&] { button.click(); });
+}
+
+std::vector<std::string> WatchedProgram::rows() const {
+  std::vector<std::string> texts;
+  for (std::size_t row = 1; row <= form.View200.count(); ++row) {
+    texts.emplace_back(form.View200.text(row));
+  }
+  return texts;
+}
+
+std::vector<std::string> WatchedProgram::table() {
+  std::vector<std::string> lines;
+  for (int row = 1; row <= form.View100.count(); ++row) {
+    ListRow& item = form.View100.item(row);
+    lines.push_back(item.text + "|" + item.subItem(1).text + "|" + item.subItem(2).text);
+  }
+  return lines;
+}
+
+std::string WatchedProgram::task(std::string_view label) {
+  for (const std::string& line : table()) {
+    if (line.starts_with(std::string(label) + "|")) return line.substr(label.size() + 1);
+  }
+  return "<no row>";
+}
+
+}  // namespace tavr::testing

@@ -1,0 +1,111 @@
+// The program on a test's machine with its message boxes, its event pump and
+// its file operations watched: what a test needs to answer a prompt, to act in
+// the middle of a run, or to count the openings of a file.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "engine/program.h"
+#include "tests/support/test_machine.h"
+
+namespace tavr::testing {
+
+/// Keeps every box and answers it.
+class RecordingDialogs : public Dialogs {
+ public:
+  struct Box {
+    std::string text;
+    std::uint32_t flags = 0;
+    std::string title;
+    bool operator==(const Box&) const = default;
+  };
+
+  int messageBox(std::string_view text, std::uint32_t flags, std::string_view title) override;
+  void beep() override {}
+
+  std::vector<Box> asked;
+  int answer = kAnswerNo;
+};
+
+/// The machine's pump, with actions of the test in it.
+class HookedEvents : public Events {
+ public:
+  explicit HookedEvents(Events& pump) : pump_(pump) {}
+
+  /// `action` runs once, inside the first doEvents at which `condition` holds.
+  void when(std::function<bool()> condition, std::function<void()> action);
+  /// `action` runs once, inside the next doEvents.
+  void next(std::function<void()> action);
+
+  void doEvents() override;
+  void wait(std::uint32_t milliseconds) override { pump_.wait(milliseconds); }
+  TimerId startTimer(std::uint32_t interval_ms, std::function<void()> on_tick) override {
+    return pump_.startTimer(interval_ms, std::move(on_tick));
+  }
+  void stopTimer(TimerId id) override { pump_.stopTimer(id); }
+
+  int pumps = 0;
+
+ private:
+  Events& pump_;
+  std::vector<std::pair<std::function<bool()>, std::function<void()>>> actions_;
+};
+
+/// The machine's files, with the openings and the removals kept.
+class RecordingFiles : public Files {
+ public:
+  explicit RecordingFiles(Files& files) : files_(files) {}
+
+  Status find(std::string_view path, std::vector<FoundFile>& out) override;
+  Status findFirst(std::string_view path, FoundFile& out) override;
+  void listFolder(std::string_view folder, std::string_view mask, FolderListing& listing) override;
+  Status attributes(std::string_view path, std::uint32_t& out) override;
+  Status setAttributes(std::string_view path, std::uint32_t attributes) override;
+  Status remove(std::string_view path) override;
+  OpenedFile open(std::string_view path, OpenMode mode) override;
+  Status copy(std::string_view from, std::string_view to) override;
+  bool canOpen(std::string_view path) override;
+  Status setCurrentDirectory(std::string_view path) override;
+  Status subfolders(std::string_view folder, std::vector<std::string>& names) override;
+
+  /// How often `path` was opened in `mode`.
+  int openings(std::string_view path, OpenMode mode) const;
+
+  std::vector<std::pair<std::string, OpenMode>> opened;
+  std::vector<std::string> removed;
+  std::vector<std::pair<std::string, std::uint32_t>> attributes_set;
+
+ private:
+  Files& files_;
+};
+
+/// A program of its own on the machine, which must outlive it.
+class WatchedProgram {
+ public:
+  explicit WatchedProgram(TestMachine& test);
+
+  /// Starts the program with these arguments to its end; true when it ended
+  /// the process.
+  bool start(std::string_view arguments);
+  /// An Erase or a Test run from its button; true when it ended the process.
+  bool run(RunKind kind);
+
+  std::vector<std::string> rows() const;  ///< View200
+  /// The table as lines "label|status|count" (the icon of a row apart).
+  std::vector<std::string> table();
+  /// One row of the table as "status|count", "<no row>" when there is none.
+  std::string task(std::string_view label);
+
+  RecordingDialogs dialogs;
+  HookedEvents events;
+  RecordingFiles files;
+  Machine machine;
+  Program program;
+  Form1& form;
+};
+
+}  // namespace tavr::testing
