@@ -94,6 +94,17 @@ std::string infinityText(double value) {
   return value < 0 ? "-1.#INF" : "1.#INF";
 }
 
+double wholeNumber(std::string_view raw, double least, double greatest) {
+  const std::string text(Trim(raw));
+  const bool hex = text.size() > 2 && text[0] == '&';
+  if (!hex && (text.empty() || decimalLength(text) != text.size())) {
+    throw RuntimeError{kErrTypeMismatch, "Type mismatch"};
+  }
+  const double value = std::nearbyint(Val(text));  // halves to even
+  if (value < least || value > greatest) throw RuntimeError{kErrOverflow, "Overflow"};
+  return value;
+}
+
 }  // namespace
 
 double Val(std::string_view raw) {
@@ -142,15 +153,10 @@ std::string formatThousandths(double value, char decimal) {
   return buffer.data();
 }
 
-int toInteger(std::string_view raw) {
-  const std::string text(Trim(raw));
-  const bool hex = text.size() > 2 && text[0] == '&';
-  if (!hex && (text.empty() || decimalLength(text) != text.size())) {
-    throw RuntimeError{kErrTypeMismatch, "Type mismatch"};
-  }
-  const double value = std::nearbyint(Val(text));  // halves to even
-  if (value < -32768 || value > 32767) throw RuntimeError{kErrOverflow, "Overflow"};
-  return static_cast<int>(value);
+int toInteger(std::string_view text) { return static_cast<int>(wholeNumber(text, -32768, 32767)); }
+
+std::int32_t toLong(std::string_view text) {
+  return static_cast<std::int32_t>(wholeNumber(text, -2147483648.0, 2147483647.0));
 }
 
 std::string Hex(std::uint32_t value) {

@@ -26,6 +26,9 @@ std::string formatThousandths(double value, char decimal);
 /// no number (the empty text too) and 6 when it does not fit 16 bits.
 int toInteger(std::string_view text);
 
+/// The same for 32 bits.
+std::int32_t toLong(std::string_view text);
+
 /// Hexadecimal digits of a number without leading zeros, upper case.
 std::string Hex(std::uint32_t value);
 

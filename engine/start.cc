@@ -26,6 +26,28 @@ void save(Program& program, std::string_view key, std::string_view name, std::st
   program.registry.fSaveString(Root::kLocalMachine, key, name, text);
 }
 
+constexpr std::int32_t kDefaultColor = 10118205;
+
+// The configured colour of the title strip; a text that is no number leaves the
+// colours of the design.
+void colorTitleStrip(Program& program) {
+  ResumeNext on;
+  Form1& form = program.form;
+  std::string text;
+  if (const auto provider = program.machine.wmi.bindRegistryProvider(kRegistryProviderMoniker)) {
+    provider->getExpandedStringValue(static_cast<std::uint32_t>(Root::kLocalMachine),
+                                     settings::kLookKey, "color", text);
+  }
+  on.next([&] {
+    const std::int32_t color = Trim(text).empty() ? kDefaultColor : toLong(text);
+    form.strip_color = color;
+    for (StripButton* button : {&form.chameleonButton9, &form.chameleonButton10,
+                                &form.chameleonButton12, &form.chameleonButton13}) {
+      *button = {color, color};
+    }
+  });
+}
+
 // A task table of fewer than two rows means that it could not be built: the
 // Windows tracks are then chosen. The ten browser rows keep that from happening.
 void chooseDefaults(Program& program) {
@@ -107,11 +129,13 @@ void Form_Initialize(Program& program, std::string_view command) {
 
 void Form_Load(Program& program) {
   Form1& form = program.form;
+  colorTitleStrip(program);
   if (form.hideOnLoad == 1) form.visible = false;
   program.directory_search.found = [&form](const std::string& name, const std::string&) {
     search_found(form.List6, name);
   };
   form.stopflag = 0;
+  form.Label222.caption = numberText(program.machine.clock.now().year);
   form.grant_failed = !GrantKeyAccess(program.machine, Root::kLocalMachine, settings::kSelectionKey,
                                       program.machine.environment.get("UserName"));
   form.Text4.setText("1");

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,6 +21,12 @@ namespace tavr {
 /// "Scripting.FileSystemObject", as far as deletion works through it: it is
 /// there or it is not.
 struct FileSystemObject {};
+
+/// Back colours of a title-strip button, at rest and under the mouse.
+struct StripButton {
+  std::int32_t color = 0;
+  std::int32_t hover_color = 0;
+};
 
 struct Form1 {
   explicit Form1(Machine& machine)
@@ -49,6 +56,11 @@ struct Form1 {
   std::optional<FileSystemObject> file_system_object;
   double recycled_items = 0;  // what the recycle bin held at the last look
   bool grant_failed = false;  // outcome of the last access grant
+
+  // The title strip.
+  std::int32_t strip_color = 0;
+  StripButton chameleonButton9, chameleonButton10, chameleonButton12, chameleonButton13;
+  Label Label222;  // the year
 
   // What a person watches.
   ListView View100;

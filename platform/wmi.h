@@ -11,13 +11,15 @@
 
 namespace tavr {
 
+/// The registry provider of this computer (".").
+inline constexpr std::string_view kRegistryProviderMoniker =
+    "winmgmts:{impersonationLevel=impersonate}!\\\\.\\root\\default:StdRegProv";
+
 class Wmi {
  public:
   virtual ~Wmi() = default;
 
-  /// Binds the registry provider by its moniker
-  /// "winmgmts:{impersonationLevel=impersonate}!\\.\root\default:StdRegProv".
-  /// Null: WMI is absent or refuses.
+  /// Binds the registry provider by its moniker. Null: WMI is absent or refuses.
   virtual std::unique_ptr<StdRegProv> bindRegistryProvider(std::string_view moniker) = 0;
 
   /// Binds "winmgmts:" and runs a query over Win32_Process; `ids` receives the

@@ -12,8 +12,6 @@ namespace {
 constexpr std::uint32_t kGenericAll = 0x10000000;
 constexpr std::string_view kSessionManager = "SYSTEM\\CurrentControlSet\\Control\\Session Manager";
 constexpr std::string_view kPendingValue = "PendingFileRenameOperations";
-constexpr std::string_view kProviderMoniker =
-    "winmgmts:{impersonationLevel=impersonate}!\\\\.\\root\\default:StdRegProv";
 constexpr auto kLocalMachine = static_cast<std::uint32_t>(Root::kLocalMachine);
 constexpr std::size_t kBlock = 8192;
 constexpr int kLastPass = 10;
@@ -24,7 +22,7 @@ bool isRecycled(const std::string& path) {
 }
 
 std::unique_ptr<StdRegProv> bindProvider(Machine& machine) {
-  auto provider = machine.wmi.bindRegistryProvider(kProviderMoniker);
+  auto provider = machine.wmi.bindRegistryProvider(kRegistryProviderMoniker);
   if (!provider) throw RuntimeError{kErrNoObject, "Object variable not set"};
   return provider;
 }

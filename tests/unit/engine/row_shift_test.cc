@@ -91,9 +91,9 @@ class RowShift : public ::testing::TestWithParam<std::tuple<Picture, RunKind>> {
 INSTANTIATE_TEST_SUITE_P(Pictures, RowShift,
                          ::testing::Combine(::testing::ValuesIn(kPictures),
                                             ::testing::Values(RunKind::erase, RunKind::test)),
-                         [](const auto& info) {
-                           return std::string(std::get<0>(info.param).name) +
-                                  (std::get<1>(info.param) == RunKind::erase ? "Erase" : "Test");
+                         [](const auto& chosen) {
+                           return std::string(std::get<0>(chosen.param).name) +
+                                  (std::get<1>(chosen.param) == RunKind::erase ? "Erase" : "Test");
                          });
 
 TEST_P(RowShift, EachRowShowsTheResultThatReachesIt) {
