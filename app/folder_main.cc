@@ -1,5 +1,7 @@
 // The machine-folder program: the whole program on a Windows machine that is
 // kept in a folder.
+#include <algorithm>
+#include <atomic>
 #include <csignal>
 #include <cstdio>
 #include <exception>
@@ -20,9 +22,10 @@ namespace {
 constexpr int kDone = 0;
 constexpr int kWrongCall = 2;
 
-tavr::folder::MachineFolder* interrupted_machine = nullptr;  // for the signal handler alone
+std::atomic<tavr::folder::MachineFolder*> interrupted_machine;  // for the signal handler alone
 
-int fail(const std::string& what) {
+int fail(std::string what) {
+  std::replace(what.begin(), what.end(), '\n', ' ');  // one line, whatever a path holds
   std::fprintf(stderr, "tavrwipe: %s\n", what.c_str());
   return kWrongCall;
 }
@@ -41,8 +44,20 @@ int askPerson(std::string_view text, std::string_view title) {
 // The first interrupt asks the run to stop, as the Stop button does; the second
 // ends the process.
 void onInterrupt(int) {
-  if (interrupted_machine != nullptr) interrupted_machine->interrupt();
+  if (auto* const machine = interrupted_machine.load()) machine->interrupt();
   std::signal(SIGINT, SIG_DFL);
+}
+
+// Every unattended start ends by ending the process. False: by an error that no
+// statement caught.
+bool runToItsEnd(tavr::Program& program) {
+  try {
+    tavr::Form_Load(program);
+  } catch (const tavr::ProcessEnd&) {
+    return true;
+  } catch (const tavr::RuntimeError&) {
+  }
+  return false;
 }
 
 int runOn(tavr::folder::MachineFolder& folder, const tavr::Options& options) {
@@ -61,14 +76,14 @@ int runOn(tavr::folder::MachineFolder& folder, const tavr::Options& options) {
   folder.setInterruptHandler([&program] { program.form.cmd_stop.click(); });
   interrupted_machine = &folder;
   std::signal(SIGINT, onInterrupt);
-  try {
-    tavr::Form_Load(program);
-  } catch (const tavr::ProcessEnd&) {
-    // How every unattended start ends.
-  }
+  std::signal(SIGPIPE, SIG_IGN);  // a reader that leaves must not end an Erase in its middle
+  const bool ended = runToItsEnd(program);
   interrupted_machine = nullptr;
+  // Saved first: what is printed may meet a closed pipe.
+  const bool saved = folder.save();
   report.finish();
-  if (!folder.save()) return fail(options.machine + "/registry.reg: cannot be written");
+  if (!ended) return fail("the run could not be carried out");
+  if (!saved) return fail(options.machine + "/registry.reg: cannot be written");
   return kDone;
 }
 

@@ -15,6 +15,10 @@ Options parseOptions(int argc, const char* const* argv) {
         return options;
       }
       options.machine = argv[++i];
+      if (options.machine.empty()) {
+        options.error = "--machine needs a folder";
+        return options;
+      }
     } else if (option == "--quiet") {
       options.quiet = true;
     } else if (option == "--rows") {
@@ -62,6 +66,9 @@ ARGUMENTS, as the Windows program takes them:
   w4, w4-c4      one Erase run for a parent program
   w4-x           one Test run for a parent program (any other second word)
   t-x, w2-x, w3-x  a Test run and then an Erase run (any other second word)
+
+An interrupt stops the run's searches, as the Stop button does; a run that follows
+still starts. A second one ends the process.
 
 Exit status: 0 when the run has been carried out, 2 for a wrong call or a folder
 that cannot be used.

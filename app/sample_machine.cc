@@ -1,5 +1,6 @@
 // Writes a sample machine folder, for trying the program and for measuring it.
 // It is no part of the program and shares no code with it.
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
 #include <exception>
@@ -25,9 +26,11 @@ constexpr std::string_view kUsage =
     "  --language FILE      the program's language file, copied to its folder\n"
     "  --only chrome-cache  nothing but N files in Chrome's session folder, for measuring\n";
 
+constexpr std::size_t kFewestFiles = 60;
+
 struct Options {
   std::string directory;
-  std::size_t files = 60;
+  std::size_t files = kFewestFiles;
   std::uint64_t seed = 1;
   std::string language;
   bool only_chrome_cache = false;
@@ -96,7 +99,7 @@ int main(int argc, char** argv) {
     if (options.only_chrome_cache) {
       tavr::sample::writeChromeCacheMachine(tree, options.files);
     } else {
-      tavr::sample::writeMachine(tree, options.files, language);
+      tavr::sample::writeMachine(tree, std::max(options.files, kFewestFiles), language);
     }
     std::printf("%s: %zu files\n", options.directory.c_str(), tree.files());
     return 0;

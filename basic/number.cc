@@ -94,10 +94,18 @@ std::string infinityText(double value) {
   return value < 0 ? "-1.#INF" : "1.#INF";
 }
 
+// "&H1F" or "&O17" to its end.
+bool isRadixNumber(std::string_view text) {
+  if (text.size() < 3 || text[0] != '&') return false;
+  const bool hex = text[1] == 'h' || text[1] == 'H';
+  const bool octal = text[1] == 'o' || text[1] == 'O';
+  const std::string_view digits = hex ? "0123456789abcdefABCDEF" : "01234567";
+  return (hex || octal) && text.find_first_not_of(digits, 2) == text.npos;
+}
+
 double wholeNumber(std::string_view raw, double least, double greatest) {
   const std::string text(Trim(raw));
-  const bool hex = text.size() > 2 && text[0] == '&';
-  if (!hex && (text.empty() || decimalLength(text) != text.size())) {
+  if (!isRadixNumber(text) && (text.empty() || decimalLength(text) != text.size())) {
     throw RuntimeError{kErrTypeMismatch, "Type mismatch"};
   }
   const double value = std::nearbyint(Val(text));  // halves to even

@@ -6,6 +6,7 @@
 #include "basic/utf.h"
 #include "services/cookies_folder.h"
 #include "services/settings_keys.h"
+#include "tracks/primitives.h"
 
 namespace tavr {
 
@@ -19,9 +20,9 @@ constexpr std::size_t kFileTail = 2;    // two characters that are not looked at
 constexpr std::size_t kFolderHead = 7;  // "folder="
 constexpr std::size_t kFolderTail = 5;  // two skipped, the mask's two, the flag
 
-// References expanded; the text keeps the NUL behind it, which a list row drops.
-std::string expanded(Machine& machine, std::u16string_view path) {
-  return machine.environment.expand(fromUtf16(path)) + '\0';
+std::string_view withoutExtension(std::string_view name) {
+  if (name.size() < kExtension) throw RuntimeError{kErrInvalidCall, "Invalid procedure call"};
+  return name.substr(0, name.size() - kExtension);
 }
 
 }  // namespace
@@ -44,10 +45,11 @@ void PlugIns::listDefinitions() {
   });
   controls_.File1.setPattern("*.tv");
   if (!listed) return;  // without the folder nothing is listed
-  for (int i = 0; i < controls_.File1.count(); ++i) {
+  const int count = controls_.File1.count();
+  for (int i = 0; i < count; ++i) {
     machine_.events.doEvents();
     const std::string name = controls_.File1.list(i);
-    controls_.View1.add(Trim(name.substr(0, name.size() - kExtension)), "b");
+    on.next([&] { controls_.View1.add(Trim(withoutExtension(name)), "b"); });
   }
 }
 
@@ -100,7 +102,7 @@ void PlugIns::addFolder(std::string_view line) {
   if (value.size() < kFolderTail) return;
   const std::u16string_view folder(value.data(), value.size() - kFolderTail);
   const std::u16string_view tail = std::u16string_view(value).substr(folder.size());
-  controls_.List5.add(expanded(machine_, folder));
+  controls_.List5.add(GetPath(machine_, fromUtf16(folder)));
   controls_.List5.add(fromUtf16(tail.substr(2, 2)));
   controls_.List5.add(fromUtf16(tail.substr(4)));
 }
@@ -121,8 +123,8 @@ void PlugIns::readLine(const std::string& line, bool& files, bool& registry) {
   if (files && line.starts_with("file")) {
     const std::u16string text = toUtf16(line);
     if (text.size() >= kFileHead + kFileTail) {
-      controls_.List4.add(expanded(machine_, std::u16string_view(text).substr(
-                                                 kFileHead, text.size() - kFileHead - kFileTail)));
+      controls_.List4.add(GetPath(
+          machine_, fromUtf16(text.substr(kFileHead, text.size() - kFileHead - kFileTail))));
     }
   }
   if (files && line.starts_with("folder") && line.size() >= kFolderHead) addFolder(line);

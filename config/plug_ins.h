@@ -4,6 +4,7 @@
 // of their own and share the files.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 

@@ -15,10 +15,6 @@ constexpr double kKilobytesShown = 1000;
 
 double total(const TextBox& box) { return Val(box.text()); }
 
-void save(Program& program, std::string_view key, std::string_view name, std::string_view text) {
-  program.registry.fSaveString(Root::kLocalMachine, key, name, text);
-}
-
 }  // namespace
 
 std::string displaySize(double bytes, char decimal) {
@@ -45,9 +41,11 @@ void Timer2_Timer(Program& program) {
   form.Label2.caption = numberText(total(form.txtregcount));
   form.Label4.caption = numberText(total(form.txtfilecount));
   form.Label6.caption = displaySize(total(form.txtfilesize), program.machine.locale.decimalSign());
-  save(program, settings::kLiveFiguresKey, "tracks-reg-count", form.txtregcount.text());
-  save(program, settings::kLiveFiguresKey, "tracks-file-count", form.txtfilecount.text());
-  save(program, settings::kLiveFiguresKey, "tracks-size-count", form.Label6.caption);
+  program.registry.saveSetting(settings::kLiveFiguresKey, "tracks-reg-count",
+                               form.txtregcount.text());
+  program.registry.saveSetting(settings::kLiveFiguresKey, "tracks-file-count",
+                               form.txtfilecount.text());
+  program.registry.saveSetting(settings::kLiveFiguresKey, "tracks-size-count", form.Label6.caption);
 }
 
 void updateStatistics(Program& program) {
@@ -59,13 +57,13 @@ void updateStatistics(Program& program) {
   std::string v;  // one text throughout: a value that is no text leaves it as it was
   read("rcount", v);
   v = numberText(Val(v) + Val(form.Label2.caption), decimal);
-  save(program, settings::kStatisticsKey, "rcount", v);
+  program.registry.saveSetting(settings::kStatisticsKey, "rcount", v);
   read("count", v);
   v = numberText(Val(v) + Val(form.Label4.caption), decimal);
-  save(program, settings::kStatisticsKey, "count", v);
-  save(program, settings::kStatisticsKey, "size", v);
+  program.registry.saveSetting(settings::kStatisticsKey, "count", v);
+  program.registry.saveSetting(settings::kStatisticsKey, "size", v);
   v = numberText(Val(v) + total(form.txtfilesize) / kKilobyte, decimal);
-  save(program, settings::kStatisticsKey, "size", v);
+  program.registry.saveSetting(settings::kStatisticsKey, "size", v);
 }
 
 void writeResultFile(Program& program) {

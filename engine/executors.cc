@@ -38,18 +38,19 @@ void stamp(Program& program) {
   const double passes = Val(program.registry.setting(settings::kMainKey, "secure_value"));
   const int number = program.numbers.freeFile();
   const std::string path = std::string(Trim(form.Text3.text())) + "\\" + form.File1.fileName();
-  std::minstd_rand random(static_cast<unsigned>(program.machine.clock.ticks()));
   std::uniform_int_distribution<int> position(1, kStampPositions);
   for (double pass = 1; pass <= passes; ++pass) {
     program.machine.events.doEvents();
     on.next([&] { program.numbers.open(number, path, OpenMode::kBinary); });
+    std::minstd_rand random(static_cast<unsigned>(program.machine.clock.ticks()));
     on.next([&] { program.numbers.put(number, position(random), kStampMask); });
     on.next([&] { program.numbers.close(number); });
   }
 }
 
-// One file: marks cleared, reported, sized and counted; then removed, if so.
-void fileItem(Program& program, const std::string& path, bool remove, Totals& totals) {
+// One file: marks cleared, reported, sized and counted; then removed, if so. The
+// path is a copy: events that are served on the way may clear the lists.
+void fileItem(Program& program, std::string path, bool remove, Totals& totals) {
   ResumeNext on;
   on.next([&] { SetAttr(program.machine, Trim(path), kArchive); });
   program.form.View200.addGhosted({kFileRow, path, " <OK>"});
@@ -95,7 +96,7 @@ void folder(Program& program, int i, bool remove, Totals& totals) {
   form.File1.setPattern(mask);
   const int count = form.File1.count();
   for (int k = 0; k < count; ++k) {
-    form.File1.list_index = k;
+    form.File1.list_index = k;  // the file at hand is the box's current one
     fileItem(program, path + "\\" + form.File1.list(k), remove, totals);
   }
   addFileCount(program, totals.filecount);
@@ -103,6 +104,16 @@ void folder(Program& program, int i, bool remove, Totals& totals) {
   const auto search = remove ? srchd : srch;
   search(program.tracks, path, mask, std::string(kFileRow) + " <OK>");
   addFileCount(program, totals.filecount);  // the folder's own files once more
+}
+
+// The row of a ticked plug-in, which the rebuild has put into the table.
+void markPlugInRow(Program& program, const std::string& text) {
+  ListView& table = program.form.View100;
+  for (int row = 1; row <= table.count(); ++row) {
+    ListRow& item = table.item(row);
+    const bool plug_in = item.small_icon == kPlugInIcon;
+    if (plug_in && sameText(Trim(item.text), Trim(text))) item.small_icon = kReportIcon;
+  }
 }
 
 void finishPlugInRows(Program& program) {
@@ -141,14 +152,7 @@ void execute(Program& program, bool remove) {
 void Command400(Program& program) {
   program.plug_ins.listDefinitions();
   if (!program.plug_ins.hasSelection()) return;
-  program.plug_ins.restoreTicks([&](const std::string& text) {
-    ListView& table = program.form.View100;
-    for (int row = 1; row <= table.count(); ++row) {
-      ListRow& item = table.item(row);
-      const bool plug_in = item.small_icon == kPlugInIcon;
-      if (plug_in && sameText(Trim(item.text), Trim(text))) item.small_icon = kReportIcon;
-    }
-  });
+  program.plug_ins.restoreTicks([&](const std::string& text) { markPlugInRow(program, text); });
   program.plug_ins.Command1();
   program.plug_ins.Command3();
 }

@@ -1,6 +1,7 @@
 #include "engine/plug_in_registry.h"
 
 #include "basic/text.h"
+#include "basic/utf.h"
 #include "tracks/primitives.h"
 
 namespace tavr {
@@ -70,9 +71,10 @@ PlugInRegistryLine parsePlugInRegistryLine(std::string_view raw) {
   for (const RootName& root : kRoots) {
     if (UCase(line.substr(0, root.long_name.size())) != root.long_name) continue;
     parsed.root = root.short_name;
+    const std::u16string text = toUtf16(line);
     const std::size_t start = root.long_name.size() + 1;
-    if (line.size() >= start + kKindTail) {
-      parsed.path = line.substr(start, line.size() - start - kKindTail);
+    if (text.size() >= start + kKindTail) {
+      parsed.path = fromUtf16(text.substr(start, text.size() - start - kKindTail));
     }
     break;
   }

@@ -2,6 +2,7 @@
 
 #include "basic/number.h"
 #include "engine/counters.h"
+#include "engine/log_commands.h"
 #include "engine/runs.h"
 #include "engine/start.h"
 #include "engine/task_table.h"
@@ -44,6 +45,10 @@ Program::Program(Machine& on)
   form.cmd_start.onClick = [this] { cmd_start_Click(*this); };
   form.cmd_test.onClick = [this] { cmd_test_Click(*this); };
   form.cmd_stop.onClick = [this] { cmd_stop_Click(*this); };
+  form.cmd_view.onClick = [this] { form.chameleonButton1.click(); };
+  form.cmd_clear.onClick = [this] { form.chameleonButton2.click(); };
+  form.chameleonButton1.onClick = [this] { viewLog(*this); };
+  form.chameleonButton2.onClick = [this] { clearLog(*this); };
   form.chameleonButton5.onClick = [this] { eraseRun(*this); };
   form.chameleonButton6.onClick = [this] { testRun(*this); };
 }

@@ -2,10 +2,14 @@
 // over one machine. It lives as long as the process.
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <string>
+#include <string_view>
 
 #include "config/plug_ins.h"
 #include "forms/form1.h"
+#include "forms/frmmsg.h"
 #include "platform/machine.h"
 #include "services/cache_entries.h"
 #include "services/call_stack.h"
@@ -28,6 +32,7 @@ struct Program {
 
   Machine& machine;
   Form1 form;
+  frmmsg message;
   FileNumbers numbers;
   CallStack call_stack;
   RegistryLayer registry;

@@ -80,13 +80,19 @@ Selections startRun(Program& program) {
   return readSelections(program);
 }
 
+// A procedure that fails is abandoned, and the run goes on behind its call.
+void runProcedure(Program& program, std::string_view name) {
+  ResumeNext on;
+  if (!name.empty()) on.next([&] { callProcedure(program.tracks, name); });
+}
+
 void windowsStep(Program& program, const WindowsStep& step, RunKind kind) {
   Form1& form = program.form;
   if (Val(program.registry.setting(settings::kSelectionKey, step.value)) == 1) {
     setStatus(form, kInProgress);
     form.trackcount = 0;
     form.tracksize = 0;
-    callProcedure(program.tracks, kind == RunKind::erase ? step.clean : step.test);
+    runProcedure(program, kind == RunKind::erase ? step.clean : step.test);
     finishRow(form);
     setCount(program.tracks, step.count == StepCount::one ? "1" : numberText(form.trackcount));
     if (step.count == StepCount::trackcountAndTotals) addTaskTotals(form);
@@ -134,7 +140,7 @@ void browserGroup(Program& program, const BrowserGroup& group, const Selections&
       // fourth has no test, and then only the status is set.
       if (group.clean[i].empty() || Val(selections[i]) != 1) continue;
       setStatus(form, kInProgress);
-      callProcedure(program.tracks, procedures[i]);
+      runProcedure(program, procedures[i]);
     }
   }
   finishRow(form);

@@ -22,10 +22,6 @@ const std::string& element(const std::vector<std::string>& words, std::size_t in
   return words[index];
 }
 
-void save(Program& program, std::string_view key, std::string_view name, std::string_view text) {
-  program.registry.fSaveString(Root::kLocalMachine, key, name, text);
-}
-
 constexpr std::int32_t kDefaultColor = 10118205;
 
 // The configured colour of the title strip; a text that is no number leaves the
@@ -54,7 +50,7 @@ void chooseDefaults(Program& program) {
   Form1& form = program.form;
   if (form.View100.count() >= 2 || form.unattended != 1) return;
   for (int value = 8; value <= 13; ++value) {
-    save(program, settings::kSelectionKey, numberText(value), "1");
+    program.registry.saveSetting(settings::kSelectionKey, numberText(value), "1");
   }
   form.Text4.setText("");
   form.Text4.setText("1");
@@ -79,7 +75,7 @@ void runUnattended(Program& program) {
       form.chameleonButton5.click();
     }
   }
-  save(program, settings::kLiveKey, "ic", "1");
+  program.registry.saveSetting(settings::kLiveKey, "ic", "1");
   throw ProcessEnd{};
 }
 
@@ -127,6 +123,7 @@ void Form_Initialize(Program& program, std::string_view command) {
   }
 }
 
+// What only a window shows (pictures, headers, captions) is the view's.
 void Form_Load(Program& program) {
   Form1& form = program.form;
   colorTitleStrip(program);
@@ -150,10 +147,10 @@ void Text15_Change(Program& program) {
   } else {
     form.chameleonButton6.click();
   }
-  save(program, settings::kWizardStatisticsKey, "rcount", form.txtregcount.text());
-  save(program, settings::kWizardStatisticsKey, "count", form.txtfilecount.text());
-  save(program, settings::kWizardStatisticsKey, "size", form.txtfilesize.text());
-  save(program, settings::kLiveKey, "ic", "1");
+  program.registry.saveSetting(settings::kWizardStatisticsKey, "rcount", form.txtregcount.text());
+  program.registry.saveSetting(settings::kWizardStatisticsKey, "count", form.txtfilecount.text());
+  program.registry.saveSetting(settings::kWizardStatisticsKey, "size", form.txtfilesize.text());
+  program.registry.saveSetting(settings::kLiveKey, "ic", "1");
   throw ProcessEnd{};
 }
 

@@ -11,8 +11,9 @@ class Environment {
   virtual ~Environment() = default;
   /// The variable's text, "" when absent. Names compare without case.
   virtual std::string get(std::string_view name) = 0;
-  /// ExpandEnvironmentStrings: %name% references replaced; an unknown one
-  /// stays. The result carries no NUL.
+  /// ExpandEnvironmentStrings: %name% references replaced, once; an unknown one
+  /// stays, and its last "%" may begin the next. The text ends at a NUL; the
+  /// result carries none.
   virtual std::string expand(std::string_view text) = 0;
   /// The program's folder, without a trailing "\".
   virtual std::string appPath() = 0;

@@ -26,6 +26,7 @@ class Events {
   /// A periodic timer; its first tick comes one interval from now. Ticks that
   /// were missed do not pile up.
   virtual TimerId startTimer(std::uint32_t interval_ms, std::function<void()> on_tick) = 0;
+  /// A handler may stop its own timer; an unknown id does nothing.
   virtual void stopTimer(TimerId id) = 0;
 };
 

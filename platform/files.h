@@ -4,7 +4,9 @@
 // one "\" is on the drive of the program's folder; a relative path starts at
 // the current directory. A text of 260 UTF-16 units or more handed to an
 // operation is not found (3), and nothing of the machine's own limits shows
-// otherwise. A read-only file refuses to be opened for writing or deleted (5);
+// otherwise. What is missing gives 2, a missing folder on the way to it 3, and
+// so does a file in a folder's place there; a name that no file can have gives
+// 123, and so does a "\" behind the name of a file. A read-only file refuses to be opened for writing or deleted (5);
 // a file that somebody else holds refuses to be opened or deleted (32), while
 // searches, attributes and sizes work on it. Links are followed inside the
 // machine; what leads out of it does not exist.
@@ -100,19 +102,24 @@ class Files {
   virtual Status setAttributes(std::string_view path, std::uint32_t attributes) = 0;
 
   /// DeleteFile. 2, 3: missing; 5: read-only, or a folder; 32: held open;
-  /// 123: a name that no file can have (wildcards).
+  /// 123: wildcards, or a "\" behind a file.
   virtual Status remove(std::string_view path) = 0;
 
-  /// CreateFile in one of the four ways a program opens a file.
+  /// CreateFile in one of the four ways a program opens a file. 2: missing, for
+  /// reading alone; 3: no such folder; 5: a folder, or read-only and not for
+  /// reading; 32: held open.
   virtual OpenedFile open(std::string_view path, OpenMode mode) = 0;
 
-  /// CopyFile: 2, 3: no source; 32: source held; 5: target read-only.
+  /// CopyFile: attributes and last-write time go along, an existing target is
+  /// replaced. 2, 3: no source; 32: source held, or its own target; 5: target
+  /// read-only.
   virtual Status copy(std::string_view from, std::string_view to) = 0;
 
-  /// OpenFile with OF_EXIST: can the file be opened now?
+  /// OpenFile with OF_EXIST: can the file be opened for reading now?
   virtual bool canOpen(std::string_view path) = 0;
 
-  /// SetCurrentDirectory. 2, 3: no such folder; 267: a file.
+  /// SetCurrentDirectory. 2, 3: no such folder; 267: a file. Refused, it changes
+  /// nothing.
   virtual Status setCurrentDirectory(std::string_view path) = 0;
 
   /// The names of the folders in a folder, in the machine's order. 3: no such

@@ -1,6 +1,7 @@
 // INI files through the profile services of Windows. Section and key names
-// compare without case; the first match counts; a value loses the blanks
-// around it and one pair of quotes that encloses it.
+// compare without case; the first match counts, of a section too; a value loses
+// the blanks around it and, read as a text, one pair of quotes that encloses it.
+// A line that begins with ";" is a comment.
 #pragma once
 
 #include <cstdint>
@@ -26,8 +27,9 @@ class IniFiles {
   virtual std::int32_t getInt(std::string_view section, std::string_view key, std::int32_t fallback,
                               std::string_view file) = 0;
 
-  /// GetPrivateProfileSection: the section's "key=value" lines, each with its
-  /// NUL, and a closing NUL, cut to `capacity` characters; "" when missing.
+  /// GetPrivateProfileSection: the section's "key=value" lines without blanks
+  /// around key and value and without comments, each with its NUL, and a closing
+  /// NUL, cut to `capacity` characters, the two NULs included; "" when missing.
   virtual std::string getSection(std::string_view section, std::uint32_t capacity,
                                  std::string_view file) = 0;
 

@@ -26,7 +26,8 @@ class MappingView {
 class FileMapping {
  public:
   virtual ~FileMapping() = default;
-  /// MapViewOfFile from offset 0. Null: refused.
+  /// MapViewOfFile from offset 0; size 0 is the whole mapping. The view may
+  /// outlive the mapping. Null: refused, as a size beyond the mapping is.
   virtual std::unique_ptr<MappingView> map(std::uint32_t access, std::size_t size) = 0;
 };
 
@@ -35,11 +36,12 @@ using WindowHandle = std::uintptr_t;
 class ParentLink {
  public:
   virtual ~ParentLink() = default;
-  /// CreateFileMapping on the paging file, read-write. Null: refused.
+  /// CreateFileMapping on the paging file, read-write, zeroed. A name in use
+  /// gives the mapping that is there. Null: refused, as size 0 is.
   virtual std::unique_ptr<FileMapping> createMapping(std::string_view name, std::uint32_t size) = 0;
   /// FindWindow without a class. 0: no window has exactly that title.
   virtual WindowHandle findWindow(std::string_view title) = 0;
-  /// SendMessage.
+  /// SendMessage. A handle that is no window's: nothing.
   virtual void sendMessage(WindowHandle window, std::uint32_t message, std::uintptr_t wparam,
                            std::intptr_t lparam) = 0;
 };

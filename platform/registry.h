@@ -1,12 +1,16 @@
 // The registry of the machine: open keys and the operations on them.
 //
-// Names compare without case; a trailing "\" in a path addresses the same key.
+// Names compare without case; a trailing "\" in a path addresses the same key, a
+// leading one fails with 161 under every root but HKEY_CLASSES_ROOT.
 // Text crosses the seam as UTF-8, sizes of text count UTF-16 units. Where the
 // access mask names no view (neither 0x100 nor 0x200) the platform adds the
 // 32-bit view (0x200), in every build of the program: only HKEY_LOCAL_MACHINE
 // \SOFTWARE has two views, and the program's own settings live in the 32-bit
-// one. Mask rights are checked as Windows checks them (0x1 query, 0x2 set,
-// 0x4 create subkey, 0x8 enumerate); a missing right gives 5.
+// one. A mask with both views gives 87, and so does a key name of more than 255
+// units. A handle's rights are checked as Windows checks them (0x1 for reading
+// and enumerating values, 0x2 for setting and deleting them, 0x8 for enumerating
+// subkeys); a missing right gives 5. Making and deleting keys asks for no right
+// of the handle.
 #pragma once
 
 #include <cstdint>
@@ -35,10 +39,11 @@ inline constexpr std::uint32_t kRegDword = 4;
 inline constexpr std::uint32_t kRegMultiSz = 7;
 
 /// A value's data as read. For the text types (1, 2) `data` is UTF-8 and ends
-/// in exactly one NUL, whether or not the stored value does; for type 7 it is
-/// the strings, each with its NUL, and the closing NUL; for every other type
-/// the raw bytes. `size` counts UTF-16 units for the text types, closing NUL
-/// included, and bytes otherwise.
+/// in exactly one NUL, whether or not the stored value does; a text of no bytes
+/// at all has data "" and size 0. For type 7 it is the strings, each with its
+/// NUL, and the closing NUL ("" again for no bytes); for every other type the raw
+/// bytes. `size` counts UTF-16 units for the text types, closing NUL included,
+/// and stored bytes otherwise.
 struct RegistryData {
   std::uint32_t type = kRegNone;
   std::uint32_t size = 0;
@@ -56,7 +61,8 @@ class RegistryKey {
   virtual Status enumKey(std::uint32_t index, std::string& name) = 0;
 
   /// RegEnumValue without a data buffer: name, type and data size of value
-  /// `index` in file order; 259 behind the last. The default value has name "".
+  /// `index`, as in RegistryData, in the order in which the values came; 259
+  /// behind the last. The default value has name "".
   virtual Status enumValue(std::uint32_t index, std::string& name, std::uint32_t& type,
                            std::uint32_t& size) = 0;
 
@@ -65,13 +71,15 @@ class RegistryKey {
   /// empty. `capacity` 0 asks for type and size (234 unless the value is empty).
   virtual Status queryValue(std::string_view name, std::uint32_t capacity, RegistryData& out) = 0;
 
-  /// RegSetValueEx: creates or replaces. Text data may end in a NUL or not.
+  /// RegSetValueEx: creates or replaces; a replaced value keeps its name's case.
+  /// Text data may end in a NUL or not; "" stores no bytes.
   virtual Status setValue(std::string_view name, std::uint32_t type, std::string_view data) = 0;
 
   /// RegDeleteValue. 2: no such value.
   virtual Status deleteValue(std::string_view name) = 0;
 
-  /// RegDeleteKey on a subkey path. 2: no such key; 5: it has subkeys.
+  /// RegDeleteKey on a subkey path, in the view of the handle. The key's values
+  /// go with it. 2: no such key; 5: it has subkeys.
   virtual Status deleteKey(std::string_view subkey) = 0;
 };
 
@@ -92,7 +100,8 @@ class Registry {
   virtual OpenedKey create(Root root, std::string_view path, std::string_view key_class,
                            std::uint32_t access) = 0;
 
-  /// RegDeleteKey directly below a root. 2: no such key; 5: it has subkeys.
+  /// RegDeleteKey directly below a root, always in the 64-bit view: there is no
+  /// mask to name one. 2: no such key; 5: it has subkeys.
   virtual Status deleteKey(Root root, std::string_view path) = 0;
 };
 

@@ -33,7 +33,8 @@ class UrlCache {
   virtual ~UrlCache() = default;
   /// FindFirstUrlCacheEntry without a pattern. Null: the cache is empty.
   virtual std::unique_ptr<CacheWalk> findFirst(CacheEntry& entry) = 0;
-  /// DeleteUrlCacheEntry: the entry and, when it can be deleted, its file.
+  /// DeleteUrlCacheEntry: the entry and, when it can be deleted, its file. A walk
+  /// that is under way goes on.
   /// 2: no such entry.
   virtual Status remove(std::string_view url) = 0;
 };

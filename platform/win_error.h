@@ -20,6 +20,7 @@ inline constexpr Status kFileExists = 80;
 inline constexpr Status kInvalidParameter = 87;
 inline constexpr Status kDiskFull = 112;
 inline constexpr Status kInvalidName = 123;
+inline constexpr Status kBadPathname = 161;
 inline constexpr Status kMoreData = 234;
 inline constexpr Status kNoMoreItems = 259;
 inline constexpr Status kDirectory = 267;

@@ -1,8 +1,16 @@
 #include "services/event_log.h"
 
+#include <algorithm>
+
 #include "basic/number.h"
 
 namespace tavr {
+
+namespace {
+
+constexpr double kGreatestId = 4294967295.0;
+
+}  // namespace
 
 bool EventLog::WriteEvent(std::string_view description, std::string_view application,
                           std::string_view event_id, std::int16_t log_type) {
@@ -14,7 +22,8 @@ bool EventLog::WriteEvent(std::string_view description, std::string_view applica
   const double id = Val(EventID);
   if (!known_type || id < 0 || Application.empty() || Description.empty()) return false;
   return service_.report(Server, Application, static_cast<std::uint16_t>(LogType),
-                         static_cast<std::uint32_t>(id), Description) == kSuccess;
+                         static_cast<std::uint32_t>(std::min(id, kGreatestId)),
+                         Description) == kSuccess;
 }
 
 void fReportError(Machine& machine, const CallStack& stack, const RuntimeError& error,

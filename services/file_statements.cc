@@ -122,7 +122,8 @@ void FileNumbers::print(int file, std::string_view line) {
 
 bool FileNumbers::eof(int file) {
   Number& entry = number(file);
-  if (!entry.loaded) entry.file->read(0, entry.file->length(), entry.contents);
+  if (!entry.loaded)
+    entry.file->read(0, static_cast<std::size_t>(entry.file->length()), entry.contents);
   entry.loaded = true;
   return entry.position >= entry.contents.size();
 }
@@ -130,7 +131,8 @@ bool FileNumbers::eof(int file) {
 std::string FileNumbers::lineInput(int file) {
   Number& entry = number(file);
   if (eof(file)) throw RuntimeError{kErrPastEnd, "Input past end of file"};
-  const std::string_view rest = std::string_view(entry.contents).substr(entry.position);
+  const std::string_view rest =
+      std::string_view(entry.contents).substr(static_cast<std::size_t>(entry.position));
   const std::size_t end = rest.find_first_of("\r\n");
   std::string line(rest.substr(0, end));
   std::size_t taken = line.size();

@@ -29,6 +29,10 @@ double FileLen(Machine& machine, std::string_view path);
 class FileNumbers {
  public:
   explicit FileNumbers(Machine& machine) : machine_(machine) {}
+  /// What has been printed is written, also when the process ends in between.
+  ~FileNumbers() { Reset(); }
+  FileNumbers(const FileNumbers&) = delete;
+  FileNumbers& operator=(const FileNumbers&) = delete;
 
   void open(int number, std::string_view path, OpenMode mode);
   int freeFile() const;
@@ -38,7 +42,8 @@ class FileNumbers {
 
   /// One line, CR LF behind it.
   void print(int number, std::string_view line);
-  /// The next line without its end. Raises 62 past the end.
+  /// The next line without its end (CR LF, CR, or LF as files made elsewhere
+  /// have it). Raises 62 past the end.
   std::string lineInput(int number);
   bool eof(int number);
   double length(int number);

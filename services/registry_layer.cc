@@ -1,8 +1,8 @@
 #include "services/registry_layer.h"
 
-#include "basic/number.h"
 #include "basic/resume_next.h"
 #include "basic/text.h"
+#include "basic/utf.h"
 #include "services/file_statements.h"
 
 namespace tavr {
@@ -58,6 +58,7 @@ Status RegistryLayer::fEnumKey(std::string_view root, std::string_view key, std:
   List12_.clear();
   const std::uint32_t code = fHiveCode(root);
   if (code == kNoRoot) return kUnknownRoot;
+  if (code == kFileRoot) return kInvalidHandle;  // no file branch here: the open fails
   const OpenedKey opened = machine_.registry.open(rootOf(code), key, kTrackAccess);
   if (opened.status != kSuccess) return opened.status;
   std::string name;
@@ -122,9 +123,8 @@ Status RegistryLayer::enumValues(std::string_view root, std::string_view key, st
   const std::uint32_t code = fHiveCode(root);
   if (code == kNoRoot) return kUnknownRoot;
   if (code == kFileRoot) {
-    packed.assign(kSectionBuffer, ' ');
-    const std::string section = machine_.ini.getSection(key, kSectionBuffer, root);
-    packed.replace(0, section.size(), section);
+    packed = machine_.ini.getSection(key, kSectionBuffer, root);
+    packed.append(kSectionBuffer - utf16Length(packed), ' ');  // the rest of the buffer
     return kSuccess;
   }
   const OpenedKey opened = machine_.registry.open(rootOf(code), key, kTrackAccess);
@@ -134,6 +134,7 @@ Status RegistryLayer::enumValues(std::string_view root, std::string_view key, st
     std::uint32_t type = kRegNone;
     std::uint32_t size = 0;
     if (opened.key->enumValue(index, name, type, size) != kSuccess) break;
+    if (reaches(name, kNameBuffer)) break;  // longer than the name buffer: an error like any other
     const Status status = appendValue(*opened.key, type, size, name, packed);
     if (status != kSuccess) return status;
     (this->*destination)(name);
@@ -167,6 +168,7 @@ Status RegistryLayer::fDeleteKey(std::string_view root, std::string_view parent,
                                  std::string_view name) const {
   const std::uint32_t code = fHiveCode(root);
   if (code == kNoRoot) return kUnknownRoot;
+  if (code == kFileRoot) return kInvalidHandle;
   const OpenedKey opened = machine_.registry.open(rootOf(code), parent, kTrackAccess);
   if (opened.status != kSuccess) return missingIsSuccess(opened.status);
   return missingIsSuccess(opened.key->deleteKey(name));
@@ -217,15 +219,11 @@ Status RegistryLayer::fReadValue(std::string_view root, std::string_view key, st
     out = data.data.substr(0, data.data.size() - 1);
   } else if (letter == "B" || letter == "D") {
     const Status status = opened.key->queryValue(name, letter == "B" ? 2 : 32, data);
-    if (letter == "B") {
-      out = false;  // the data went to a copy
-    } else {
-      out = std::int32_t{0};
+    // The value exists: its data went to a copy, and the number stays as it was.
+    if (status == kSuccess || status == kMoreData) {
+      out = letter == "B" ? ReadValue(false) : ReadValue(std::int32_t{0});
     }
-    if (status != kSuccess) {
-      if (status == kFileNotFound) out = fallback;
-      return status;
-    }
+    if (status != kSuccess) return status;
   }
   return kSuccess;
 }

@@ -76,6 +76,11 @@ class RegistryLayer {
   /// The setting alone, "" when it cannot be read.
   std::string setting(std::string_view key, std::string_view name) const;
 
+  /// Writes a setting; a failure is ignored.
+  void saveSetting(std::string_view key, std::string_view name, std::string_view text) const {
+    fSaveString(Root::kLocalMachine, key, name, text);
+  }
+
   bool fSaveString(Root root, std::string_view key, std::string_view name,
                    std::string_view text) const;
 

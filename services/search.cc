@@ -1,6 +1,7 @@
 #include "services/search.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 #include "basic/resume_next.h"
@@ -24,7 +25,10 @@ Date fileTimeToDate(std::uint64_t file_time) {
   const auto seconds = static_cast<double>(file_time / 10000000);
   const Date date = seconds / kSecondsPerDay - kFileTimeToDateDays;
   if (date >= kEndOfDates) throw RuntimeError{kErrTypeMismatch, "Type mismatch"};
-  return date;
+  if (date >= 0) return date;
+  // Before the first day the day counts down and its time still counts up.
+  const Date day = std::floor(date);
+  return day - (date - day);
 }
 
 double fileSizeToDouble(std::uint32_t high, std::uint32_t low) {
@@ -98,22 +102,20 @@ File FoundFiles::item(std::size_t index) const {
 
 void Search::SearchFiles(std::string_view folder, std::string_view mask, bool recursive) {
   if (folder.empty() || folder == "\\") return;
-  std::string path(folder);
-  if (!endsInBackslash(path)) path += '\\';
-  walk(path, mask, recursive);
+  walk(std::string(folder), mask, recursive);
 }
 
-void Search::walk(const std::string& folder, std::string_view mask, bool recursive) {
+// The call is noted with the folder as it was asked for.
+void Search::walk(std::string folder, std::string_view mask, bool recursive) {
   const auto call = stack_.enter(
       kModule, "SearchFiles", "FilePath: " + folder,
       ", FileName: " + std::string(mask) + ", Recursive: " + (recursive ? "True" : "False"));
+  if (!endsInBackslash(folder)) folder += '\\';
   // One listing serves both walks of the folder: nothing else runs between them.
   FolderListing listing;
   machine_.files.listFolder(folder, mask, listing);
   if (recursive) {
-    for (const std::string& name : listing.subfolders) {
-      walk(folder + name + "\\", mask, recursive);
-    }
+    for (const std::string& name : listing.subfolders) walk(folder + name, mask, recursive);
   }
   for (const FoundFile& file : listing.files) addFile(folder, file);
 }

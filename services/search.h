@@ -88,7 +88,7 @@ class Search {
   const FoundFiles& found() const { return found_; }
 
  private:
-  void walk(const std::string& folder, std::string_view mask, bool recursive);
+  void walk(std::string folder, std::string_view mask, bool recursive);
   void addFile(std::string_view folder, const FoundFile& file);
   Date date(std::uint64_t file_time);
   double sizeOf(const FoundFile& file);

@@ -1,7 +1,6 @@
 #include "tracks/catalogue.h"
 
 #include "basic/resume_next.h"
-#include "basic/text.h"
 #include "tracks/primitives.h"
 #include "tracks/profiles.h"
 
@@ -13,10 +12,13 @@ template <class... Functions>
 struct Overloaded : Functions... {
   using Functions::operator()...;
 };
+template <class... Functions>
+Overloaded(Functions...) -> Overloaded<Functions...>;  // clang deduces it only when told
 
 void runShape(TrackContext& context, const Procedure& procedure) {
   std::visit(Overloaded{
-                 [&](const FixedFolder&) {
+                 [&](const FixedFolder& folder) {
+                   if (folder.clears_list12) context.form.List12.clear();
                    for (const Entry& entry : procedure.searches) {
                      runEntry(context, entry, expandPlace(context, entry.folder));
                    }
@@ -54,7 +56,7 @@ const Procedure* findProcedure(std::string_view name) {
 
 void callProcedure(TrackContext& context, std::string_view name) {
   const Procedure* const procedure = findProcedure(name);
-  if (procedure == nullptr) return;
+  if (procedure == nullptr) throw RuntimeError{kErrInvalidCall, "Invalid procedure call"};
   runShape(context, *procedure);
   if (procedure->tail == RowTail::full) rowTail(context);
   if (procedure->tail == RowTail::bold) rowTailBold(context);

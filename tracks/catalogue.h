@@ -40,7 +40,7 @@ struct KeyUse {
   std::string_view path;
 };
 
-/// A row text of an own procedure; braces stand for what is put in.
+/// A row text of an own procedure; braces stand for what is put in, in order.
 struct RowForm {
   bool ghosted = false;
   std::string_view text;
@@ -51,7 +51,9 @@ struct RowForm {
 enum class RowTail : std::uint8_t { none, full, bold, own };
 
 /// A fixed-folder search: the entries, once.
-struct FixedFolder {};
+struct FixedFolder {
+  bool clears_list12 = false;  ///< empties the list of profiles, and has no use for it
+};
 
 /// A Chromium browser whose profiles are the subkeys of its PreferenceMACs key.
 struct ProfileKey {
@@ -85,10 +87,27 @@ std::span<const Procedure> internetExplorerTracks();
 std::span<const Procedure> firefoxTracks();
 std::span<const Procedure> chromiumTracks();
 
+/// What a table promises: unique names, and search folders that begin with a
+/// place and do not end in "\" (one does, as the path is made of two texts).
+constexpr bool wellFormed(std::span<const Procedure> table) {
+  for (std::size_t i = 0; i < table.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j) {
+      if (table[i].name == table[j].name) return false;
+    }
+    for (const Entry& entry : table[i].searches) {
+      const bool place = entry.folder.starts_with('%') || entry.folder.starts_with('{');
+      const bool open_end = entry.folder.ends_with('\\') && entry.folder != "{Cache}\\";
+      if (!place || open_end || entry.pattern.empty() || entry.label.empty()) return false;
+    }
+  }
+  return true;
+}
+
 /// The procedure of that name; null for a name that is not in the catalogue.
 const Procedure* findProcedure(std::string_view name);
 
-/// Calls the procedure of that name, as a run does.
+/// Calls the procedure of that name, as a run does. Raises 5 for a name that is
+/// not in the catalogue.
 void callProcedure(TrackContext& context, std::string_view name);
 
 }  // namespace tavr

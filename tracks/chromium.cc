@@ -117,6 +117,8 @@ void chromeSessions(TrackContext& context, const Procedure& self) {
 
 // --- Opera: one fixed folder; no "Top Sites.*" and no "Shortcuts.*" ----------
 
+constexpr FixedFolder kOpera = {.clears_list12 = true};
+
 constexpr Entry kC31[] = {
     {srchd, "%USERPROFILE%\\AppData\\Roaming\\Opera Software\\Opera Stable", "History.*",
      "Opera History "},
@@ -396,16 +398,16 @@ constexpr Procedure kChromium[] = {
     {"c28", "Chrome cookies", kChrome, full, kC28, kChromeKeys, {}},
     {"t28", "Chrome cookies", kChrome, full, kT28, kChromeKeys, {}},
 
-    {"c31", "Opera history", FixedFolder{}, full, kC31, {}, {}},
-    {"t31", "Opera history", FixedFolder{}, full, kT31, {}, {}},
-    {"c32", "Opera passwords", FixedFolder{}, full, kC32, {}, {}},
-    {"t32", "Opera passwords", FixedFolder{}, full, kT32, {}, {}},
-    {"c33", "Opera typed URLs", FixedFolder{}, full, kC33, {}, {}},
-    {"t33", "Opera typed URLs", FixedFolder{}, full, kT33, {}, {}},
-    {"c34", "Opera sessions", FixedFolder{}, full, kC34, {}, {}},
-    {"t34", "Opera sessions", FixedFolder{}, full, kT34, {}, {}},
-    {"c35", "Opera cookies", FixedFolder{}, full, kC35, {}, {}},
-    {"t35", "Opera cookies", FixedFolder{}, full, kT35, {}, {}},
+    {"c31", "Opera history", kOpera, full, kC31, {}, {}},
+    {"t31", "Opera history", kOpera, full, kT31, {}, {}},
+    {"c32", "Opera passwords", kOpera, full, kC32, {}, {}},
+    {"t32", "Opera passwords", kOpera, full, kT32, {}, {}},
+    {"c33", "Opera typed URLs", kOpera, full, kC33, {}, {}},
+    {"t33", "Opera typed URLs", kOpera, full, kT33, {}, {}},
+    {"c34", "Opera sessions", kOpera, full, kC34, {}, {}},
+    {"t34", "Opera sessions", kOpera, full, kT34, {}, {}},
+    {"c35", "Opera cookies", kOpera, full, kC35, {}, {}},
+    {"t35", "Opera cookies", kOpera, full, kT35, {}, {}},
 
     {"c40", "Edge form data", kEdge, full, kC40, kEdgeKeys, {}},
     {"t40", "Edge form data", kEdge, full, kT40, kEdgeKeys, {}},
@@ -474,6 +476,7 @@ constexpr Procedure kChromium[] = {
     {"c94", "Maxthon cookies", kMaxthon, full, kC94, kMaxthonKeys, {}},
     {"t94", "Maxthon cookies", kMaxthon, full, kT94, kMaxthonKeys, {}},
 };
+static_assert(wellFormed(kChromium));
 
 }  // namespace
 

@@ -19,7 +19,7 @@ void countOne(TrackContext& context, double& total) {
 
 // Values directly under the keys. The body runs once even on an empty list, and
 // then reports and deletes the default value.
-void valuesUnderKeys(TrackContext& context, double& total) {
+void valuesUnderKeys(TrackContext& context, const RowForm& row, double& total) {
   Form1& form = context.form;
   grantKey(context, kOpenSave);
   if (context.registry.fEnumValueb("HKCU", kLastVisited) != kSuccess) {
@@ -31,19 +31,21 @@ void valuesUnderKeys(TrackContext& context, double& total) {
     context.machine.events.doEvents();
     context.registry.fDeleteValue("HKCU", kOpenSave, form.List20.at(i));
     context.registry.fDeleteValue("HKCU", kLastVisited, form.List20.at(i));
-    form.View200.addGhosted({mesg, " ", form.List20.at(i), " <OK>"});
+    showRow(context, row, {mesg, form.List20.at(i)});
     countOne(context, total);
     ++i;
   } while (i <= form.List20.count() - 1);
+  // Stated beside the loop that always counts one; it is never met.
   if (total == 0) setCount(context, "0");
   rowTail(context);
 }
 
 // One subkey: each value is deleted in both keys, reported or not; binary
 // values, whose read gives no text, go without a row.
-void valuesOfSubkey(TrackContext& context, const std::string& first, const std::string& second,
-                    const std::string& mesg, double& total) {
+void valuesOfSubkey(TrackContext& context, const RowForm& row, const std::string& first,
+                    const std::string& second, double& total) {
   Form1& form = context.form;
+  const std::string mesg = LangText(context, "175");
   int i = 0;
   do {
     context.machine.events.doEvents();
@@ -53,7 +55,7 @@ void valuesOfSubkey(TrackContext& context, const std::string& first, const std::
       context.registry.fGetString(Root::kCurrentUser, second, form.List20.at(i), data);
     }
     if (!Trim(data).empty()) {
-      form.View200.addGhosted({mesg, ": ", data, "  <OK>"});
+      showRow(context, row, {mesg, data});
       countOne(context, total);
     }
     context.registry.fDeleteValue("HKCU", second, form.List20.at(i));
@@ -62,7 +64,8 @@ void valuesOfSubkey(TrackContext& context, const std::string& first, const std::
   } while (i <= form.List20.count() - 1);
 }
 
-void valuesUnderSubkeys(TrackContext& context, std::string_view key, double& total) {
+void valuesUnderSubkeys(TrackContext& context, const RowForm& row, std::string_view key,
+                        double& total) {
   Form1& form = context.form;
   if (context.registry.fEnumKey("HKCU", key) != kSuccess) {
     context.registry.fEnumKey("HKCU", kOpenSave);
@@ -75,26 +78,26 @@ void valuesUnderSubkeys(TrackContext& context, std::string_view key, double& tot
     if (context.registry.fEnumValueb("HKCU", first) != kSuccess) {
       context.registry.fEnumValueb("HKCU", second);
     }
-    valuesOfSubkey(context, first, second, LangText(context, "175"), total);
+    valuesOfSubkey(context, row, first, second, total);
     ++j;
   } while (j <= form.List12.count() - 1);
 }
 
 }  // namespace
 
-void c5(TrackContext& context, const Procedure&) {
+void c5(TrackContext& context, const Procedure& self) {
   double total = 0;
-  valuesUnderKeys(context, total);
-  valuesUnderSubkeys(context, kLastVisitedLegacy, total);
-  valuesUnderSubkeys(context, kOpenSavePidl, total);
+  valuesUnderKeys(context, self.rows[0], total);
+  valuesUnderSubkeys(context, self.rows[1], kLastVisitedLegacy, total);
+  valuesUnderSubkeys(context, self.rows[1], kOpenSavePidl, total);
   rowTail(context);
 }
 
-void t5(TrackContext& context, const Procedure&) {
+void t5(TrackContext& context, const Procedure& self) {
   Form1& form = context.form;
   double total = 0;
-  const auto show = [&](std::string_view before, std::string_view behind, int i) {
-    form.View200.addGhosted({before, form.List20.at(i), behind});
+  const auto show = [&](const RowForm& row, int i) {
+    showRow(context, row, {form.List20.at(i)});
     countOne(context, total);
     setCount(context, numberText(context.form.trackcount));
   };
@@ -104,7 +107,7 @@ void t5(TrackContext& context, const Procedure&) {
   int i = 0;
   do {
     context.machine.events.doEvents();
-    show("clean open save dialogs ", " <OK>", i);
+    show(self.rows[0], i);
     ++i;
   } while (i <= form.List20.count() - 1);
   if (total == 0) setCount(context, "0");
@@ -122,7 +125,7 @@ void t5(TrackContext& context, const Procedure&) {
     i = 0;
     do {
       context.machine.events.doEvents();
-      if (!Trim(form.List20.at(i)).empty()) show("clean open save dialogs: ", "  <OK>", i);
+      if (!Trim(form.List20.at(i)).empty()) show(self.rows[1], i);
       ++i;
     } while (i <= form.List20.count() - 1);
     ++j;

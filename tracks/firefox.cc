@@ -80,7 +80,7 @@ void firstProfileFile(TrackContext& context, const Procedure& self, std::string_
   });
   if (form.Dir1.list(0).empty()) return;
   const std::string file = form.Dir1.list(0) + "\\" + std::string(name);
-  form.View200.addGhosted({self.rows[0].text});
+  showRow(context, self.rows[0]);
   clsFileProp properties(context.machine);
   properties.FindFileInfo(file);
   addTo(form.txtfilecount, 1);
@@ -118,6 +118,7 @@ constexpr Procedure kFirefox[] = {
     {"c223", "Cookies and site storage", FirefoxProfiles{}, RowTail::full, kC223, {}, {}},
     {"t223", "Cookies and site storage", FirefoxProfiles{}, RowTail::full, kT223, {}, {}},
 };
+static_assert(wellFormed(kFirefox));
 
 }  // namespace
 

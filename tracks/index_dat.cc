@@ -7,6 +7,7 @@
 #include "basic/text.h"
 #include "services/cookies_folder.h"
 #include "services/file_properties.h"
+#include "services/file_statements.h"
 #include "services/settings_keys.h"
 #include "tracks/primitives.h"
 
@@ -39,7 +40,7 @@ void reportFile(TrackContext& context, const Procedure& self, const std::string&
   ResumeNext on;
   on.next([&] { SetAttr(context.machine, file, kArchive); });
   // A row even when there is no such file.
-  context.form.View200.addGhosted({self.rows[0].text});
+  showRow(context, self.rows[0]);
   clsFileProp properties(context.machine);
   properties.FindFileInfo(Trim(file));
   addTo(context.form.txtfilesize, Val(properties.ByteSize()));
@@ -48,21 +49,19 @@ void reportFile(TrackContext& context, const Procedure& self, const std::string&
 // Deletion works through the form's file-system object, which is not made here:
 // the file stays behind, overwritten, unless an earlier stop left the object.
 void overwrite(TrackContext& context, const std::string& file) {
-  std::string value;
-  context.registry.fGetString(Root::kLocalMachine, settings::kOptionsKeyOfCache, "3", value);
+  const std::string value = context.registry.setting(settings::kOptionsKeyOfCache, "3");
   if (Val(value) == 0) {
     context.deletion.fOverwriteFile(file);
     context.deletion.DeleteAFile(file);
   }
   if (Val(value) == 1) {
-    context.registry.fGetString(Root::kLocalMachine, settings::kMainKeyOfCache, "secure_value",
-                                value);
+    const std::string times = context.registry.setting(settings::kMainKeyOfCache, "secure_value");
     double counter = 1;
     do {
       context.machine.events.doEvents();
       context.deletion.fOverwriteFile(file);
       counter += 1;
-    } while (counter <= Val(value));
+    } while (counter <= Val(times));
     context.deletion.DeleteAFile(file);
   }
 }
@@ -90,7 +89,6 @@ void t9(TrackContext& context, const Procedure& self) {
   reportFile(context, self, folder + "\\index.dat");
   searchFolders(context, self, folder);
   setCount(context, "1");
-  rowTail(context);
 }
 
 }  // namespace tavr::index_dat

@@ -35,7 +35,7 @@ constexpr KeyUse kT6Keys[] = {
     {grant, kTypedUrlsRead}, {values, kTypedUrls}, {read, kTypedUrlsRead}};
 constexpr RowForm kTypedRows[] = {{false, "IE Typed URL {data}"}};
 
-void t6(TrackContext& context, const Procedure&) {
+void t6(TrackContext& context, const Procedure& self) {
   grantKey(context, kTypedUrlsRead);
   context.registry.fEnumValueb("HKCU", kTypedUrls);
   const int count = context.form.List20.count();
@@ -45,7 +45,7 @@ void t6(TrackContext& context, const Procedure&) {
   for (int i = 0; i < count; ++i) {
     context.registry.fGetString(Root::kCurrentUser, kTypedUrlsRead, context.form.List20.at(i),
                                 data);
-    context.form.View200.add({"IE Typed URL ", data});
+    showRow(context, self.rows[0], {data});
   }
 }
 
@@ -106,7 +106,8 @@ struct DomCleaning {
   std::string_view delete_parent;
 };
 
-void domStorage(TrackContext& context, std::string_view key, const DomCleaning* cleaning) {
+void domStorage(TrackContext& context, const RowForm& row, std::string_view key,
+                const DomCleaning* cleaning) {
   Form1& form = context.form;
   form.List12.clear();
   grantKey(context, key);
@@ -115,7 +116,7 @@ void domStorage(TrackContext& context, std::string_view key, const DomCleaning* 
   addTo(form.txtregcount, count);
   for (int i = 0; i < count; ++i) {
     const std::string name = form.List12.at(i);
-    form.View200.add({"IE Typed URL ", name});
+    showRow(context, row, {name});
     if (cleaning == nullptr) continue;
     if (!cleaning->grant_parent.empty()) {
       grantKey(context, std::string(cleaning->grant_parent) + "\\" + name);
@@ -130,15 +131,15 @@ void c7(TrackContext& context, const Procedure& self) {
   searchCookies(context, self);
   constexpr DomCleaning kLow = {kLowDomGranted, kLowDom};
   constexpr DomCleaning kPlain = {"", kDom};
-  domStorage(context, kLowDomGranted, &kLow);
-  domStorage(context, kDom, &kPlain);
+  domStorage(context, self.rows[0], kLowDomGranted, &kLow);
+  domStorage(context, self.rows[0], kDom, &kPlain);
   context.form.List12.clear();
 }
 
 void t7(TrackContext& context, const Procedure& self) {
   searchCookies(context, self);
-  domStorage(context, kLowDomGranted, nullptr);
-  domStorage(context, kDom, nullptr);
+  domStorage(context, self.rows[0], kLowDomGranted, nullptr);
+  domStorage(context, self.rows[0], kDom, nullptr);
   context.form.List12.clear();
 }
 
@@ -207,13 +208,13 @@ std::string_view findVersion(TrackContext& context, std::string_view root,
 
 // The rows of List12, once even when it is empty; `clean` is handed each name.
 template <class Clean>
-void historyRows(TrackContext& context, double& total, Clean&& clean) {
+void historyRows(TrackContext& context, const RowForm& row, double& total, Clean&& clean) {
   Form1& form = context.form;
   int i = 0;
   do {
     context.machine.events.doEvents();
     clean(form.List12.at(i));
-    form.View200.add({"Cleaning Internet History value: ", form.List12.at(i), "  <OK>"});
+    showRow(context, row, {form.List12.at(i)});
     total += 1;
     form.trackcount += 1;
     addTo(form.txtregcount, 1);
@@ -222,18 +223,17 @@ void historyRows(TrackContext& context, double& total, Clean&& clean) {
   } while (i <= form.List12.count() - 1);
 }
 
-void t11(TrackContext& context, const Procedure&) {
+void t11(TrackContext& context, const Procedure& self) {
   double total = 0;
   findVersion(context, "HKCU", "");
-  historyRows(context, total, [](const std::string&) {});
-  if (total == 0) setCount(context, "0");
-  rowTail(context);
+  historyRows(context, self.rows[0], total, [](const std::string&) {});
+  if (total == 0) setCount(context, "0");  // never met: the loop counts at least one
 }
 
-void c11(TrackContext& context, const Procedure&) {
+void c11(TrackContext& context, const Procedure& self) {
   double total = 0;
   const std::string own = extensibleCache(findVersion(context, "HKCU", ""));
-  historyRows(context, total, [&](const std::string& name) {
+  historyRows(context, self.rows[0], total, [&](const std::string& name) {
     fDeleteKeyTree(context, Root::kCurrentUser, own + "\\" + std::string(Trim(name)));
   });
   if (total == 0) setCount(context, "0");
@@ -242,10 +242,9 @@ void c11(TrackContext& context, const Procedure&) {
   const std::string prefix = std::string(Trim(user)) + "\\";
   const std::string logged_on = prefix + extensibleCache(findVersion(context, "HKU", prefix));
   // The names come from HKU; what is deleted lies under the current user.
-  historyRows(context, total, [&](const std::string& name) {
+  historyRows(context, self.rows[0], total, [&](const std::string& name) {
     fDeleteKeyTree(context, Root::kCurrentUser, logged_on + "\\" + name);
   });
-  rowTail(context);
 }
 
 constexpr Procedure kInternetExplorer[] = {
@@ -271,11 +270,12 @@ constexpr Procedure kInternetExplorer[] = {
      temporary_files::kT8Rows},
     {"c9", "index.dat files", OwnProcedure{index_dat::c9}, RowTail::none, index_dat::kC9Searches,
      index_dat::kC9Keys, index_dat::kRows},
-    {"t9", "index.dat files", OwnProcedure{index_dat::t9}, RowTail::own, index_dat::kT9Searches,
+    {"t9", "index.dat files", OwnProcedure{index_dat::t9}, RowTail::full, index_dat::kT9Searches,
      index_dat::kT9Keys, index_dat::kRows},
-    {"c11", "Extensible cache keys", OwnProcedure{c11}, RowTail::own, {}, kC11Keys, kHistoryRows},
-    {"t11", "Extensible cache keys", OwnProcedure{t11}, RowTail::own, {}, kT11Keys, kHistoryRows},
+    {"c11", "Extensible cache keys", OwnProcedure{c11}, RowTail::full, {}, kC11Keys, kHistoryRows},
+    {"t11", "Extensible cache keys", OwnProcedure{t11}, RowTail::full, {}, kT11Keys, kHistoryRows},
 };
+static_assert(wellFormed(kInternetExplorer));
 
 }  // namespace
 

@@ -145,6 +145,23 @@ void grantKey(TrackContext& context, std::string_view key) {
                                               context.machine.environment.get("UserName"));
 }
 
+void showRow(TrackContext& context, const RowForm& row,
+             std::initializer_list<std::string_view> values) {
+  std::string text;
+  std::string_view rest = row.text;
+  for (const std::string_view value : values) {
+    const std::size_t open = rest.find('{');
+    (text += rest.substr(0, open)) += value;
+    rest.remove_prefix(rest.find('}') + 1);
+  }
+  text += rest;
+  if (row.ghosted) {
+    context.form.View200.addGhosted({text});
+  } else {
+    context.form.View200.add({text});
+  }
+}
+
 void addTo(TextBox& total, double number) { total.setText(numberText(Val(total.text()) + number)); }
 
 void setCount(TrackContext& context, std::string_view text) {

@@ -2,6 +2,7 @@
 // tree deletion, and the small steps in which a procedure reports.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -43,6 +44,11 @@ std::string LangText(TrackContext& context, std::string_view number);
 
 /// GrantKeyAccess for the user named by the environment.
 void grantKey(TrackContext& context, std::string_view key);
+
+/// Adds a row of the table to the results: its braces filled with the values in
+/// order, greyed and scrolled to when the table says so.
+void showRow(TrackContext& context, const RowForm& row,
+             std::initializer_list<std::string_view> values = {});
 
 /// Adds a number to a total that is kept as text.
 void addTo(TextBox& total, double number);

@@ -6,6 +6,7 @@
 #include "basic/resume_next.h"
 #include "basic/text.h"
 #include "services/file_properties.h"
+#include "services/file_statements.h"
 #include "services/settings_keys.h"
 #include "tracks/primitives.h"
 
@@ -42,21 +43,19 @@ void overwriteAndKill(TrackContext& context, const std::string& file, const std:
 }
 
 // The steps of a row that both share, up to its size.
-double reportRow(TrackContext& context, const std::string& file, std::string_view text,
-                 std::string_view between) {
+double reportRow(TrackContext& context, const std::string& file, const RowForm& row,
+                 std::initializer_list<std::string_view> values, clsFileProp& properties) {
   ResumeNext on;
-  Form1& form = context.form;
   on.next([&] { SetAttr(context.machine, file, kArchive); });
-  form.View200.addGhosted({text, between, file, "  <OK>"});
-  addTo(form.txtfilecount, 1);
-  clsFileProp properties(context.machine);
+  showRow(context, row, values);
+  addTo(context.form.txtfilecount, 1);
   properties.FindFileInfo(Trim(file));
   return Val(properties.ByteSize());
 }
 
 }  // namespace
 
-void c8(TrackContext& context, const Procedure&) {
+void c8(TrackContext& context, const Procedure& self) {
   Form1& form = context.form;
   form.List20.clear();
   context.cache.fListCacheFiles();
@@ -67,12 +66,13 @@ void c8(TrackContext& context, const Procedure&) {
                               rounds);
   context.registry.fGetString(Root::kLocalMachine, settings::kMainKeyOfCache, "secure_clean",
                               value);
+  clsFileProp properties(context.machine);
   double total = 0;
   int i = 0;
   do {
     context.machine.events.doEvents();
     const std::string file = form.List20.at(i);
-    total += reportRow(context, file, mesg, " = ");
+    total += reportRow(context, file, self.rows[0], {mesg, file}, properties);
     if (Val(value) == 1) overwriteAndKill(context, file, rounds, value);
     form.List13.add("Removing : " + file);
     context.cache.fDeleteCacheEntry(form.List21.at(i));
@@ -82,22 +82,21 @@ void c8(TrackContext& context, const Procedure&) {
   addTo(form.txtfilesize, total);
 }
 
-void t8(TrackContext& context, const Procedure&) {
+void t8(TrackContext& context, const Procedure& self) {
   Form1& form = context.form;
   form.List20.clear();
   context.cache.fListCacheFiles();
-  std::string value;  // read, and of no further use here
-  context.registry.fGetString(Root::kLocalMachine, settings::kMainKeyOfCache, "secure_value",
-                              value);
-  context.registry.fGetString(Root::kLocalMachine, settings::kMainKeyOfCacheTest, "secure_clean",
-                              value);
+  // Both are read, and of no further use here.
+  context.registry.setting(settings::kMainKeyOfCache, "secure_value");
+  context.registry.setting(settings::kMainKeyOfCacheTest, "secure_clean");
+  clsFileProp properties(context.machine);
   double total = 0;
   int i = 0;
   do {
     context.machine.events.doEvents();
     if (form.stopflag == 1) break;
     const std::string file = form.List20.at(i);
-    total += reportRow(context, file, "IE cache temp files", " = ");
+    total += reportRow(context, file, self.rows[0], {file}, properties);
     form.List13.add("Removing : " + file);
     ++i;
     form.trackcount += 1;

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "basic/number.h"
-#include "basic/resume_next.h"
 #include "basic/text.h"
 #include "tracks/catalogue.h"
 #include "tracks/dialogs.h"
@@ -44,7 +43,6 @@ constexpr std::string_view kTrayNotify =
 
 constexpr std::uint32_t kRunWait = 2000;     // ms; part of the track
 constexpr std::uint32_t kEmptySilently = 7;  // no confirmation, no progress, no sound
-constexpr int kPathNotFoundError = 76;
 
 // --- c1, t1: Start Menu Run history ---------------------------------------
 
@@ -53,24 +51,22 @@ constexpr KeyUse kC1Keys[] = {
 constexpr RowForm kC1Rows[] = {{true, "{033}Clean start run history  <OK>"}};
 constexpr RowForm kT1Rows[] = {{true, "Windows Start Run History  <OK>"}};
 
-void c1(TrackContext& context, const Procedure&) {
+void c1(TrackContext& context, const Procedure& self) {
   context.machine.events.wait(kRunWait);
   // Written before anything is deleted.
-  context.form.View200.addGhosted({LangText(context, "033"), "Clean start run history  <OK>"});
+  showRow(context, self.rows[0], {LangText(context, "033")});
   grantKey(context, kRunMru);
   grantKey(context, kRunMruNt);
   fDeleteKeyTree(context, Root::kCurrentUser, kRunMru);
   fDeleteKeyTree(context, Root::kCurrentUser, kRunMruNt);
   addTo(context.form.txtregcount, 1);
-  rowTail(context);
 }
 
 // Reports one track whether or not the keys hold anything.
 void t1(TrackContext& context, const Procedure& self) {
   context.machine.events.wait(kRunWait);
-  context.form.View200.addGhosted({self.rows[0].text});
+  showRow(context, self.rows[0]);
   addTo(context.form.txtregcount, 1);
-  rowTail(context);
 }
 
 // --- c2, t2: Start Menu Search history ------------------------------------
@@ -86,13 +82,13 @@ void showNoneFound(TrackContext& context) {
   if (Val(context.form.txtregcount.text()) == 0) setCount(context, "0");
 }
 
-void c2(TrackContext& context, const Procedure&) {
+void c2(TrackContext& context, const Procedure& self) {
   grantKey(context, kSearchGranted);
   context.registry.fEnumValueb("HKCU", kSearch);
   const int count = context.form.List20.count();
   for (int i = 0; i < count; ++i) {
     const std::string name = context.form.List20.at(i);
-    context.form.View200.addGhosted({"Clean start find history ", name, " <OK>"});
+    showRow(context, self.rows[0], {name});
     context.form.trackcount += 1;
     addTo(context.form.txtregcount, 1);
     context.registry.fDeleteValue("HKCU", kSearch, name);
@@ -109,19 +105,16 @@ void t2(TrackContext& context, const Procedure& self) {
   context.registry.fEnumValueb("HKCU", kSearch);
   const int count = context.form.List20.count();
   for (int i = 0; i < count; ++i) {
-    context.form.View200.add({self.rows[0].text});
+    showRow(context, self.rows[0]);
     addTo(context.form.txtregcount, 1);
     context.form.trackcount += 1;
     if (Val(context.form.txtregcount.text()) > 0) setCount(context, numberText(i + 1));
   }
   showNoneFound(context);
-  rowTail(context);
 }
 
 // --- c3, t3: Recent documents and typed paths -----------------------------
 
-constexpr std::string_view kRecentRow = "start documents history  <OK>";
-constexpr std::string_view kTypedRow = "Typed URL ";
 constexpr Entry kC3Searches[] = {{srchd,
                                   "%USERPROFILE%\\AppData\\Roaming\\Microsoft\\Windows\\Recent",
                                   "*.*", "start documents history "}};
@@ -132,15 +125,13 @@ constexpr KeyUse kC3Keys[] = {{grant, kRecentDocs},  {grant, kRecentDocsNt}, {tr
                               {tree, kRecentDocsNt}, {grant, kTypedPaths},   {values, kTypedPaths},
                               {read, kTypedPaths},   {tree, kTypedPaths}};
 constexpr KeyUse kT3Keys[] = {{grant, kTypedPaths}, {values, kTypedPaths}, {read, kTypedPaths}};
-constexpr RowForm kRecentRows[] = {{true, kRecentRow}, {false, "Typed URL {text}"}};
+constexpr RowForm kRecentRows[] = {{true, "start documents history  <OK>"},
+                                   {false, "Typed URL {text}"}};
 
-// The search, the error that changes nothing, and the typed paths: the same in
-// both, the primitive apart.
+// The search and the typed paths: the same in both, the primitive apart.
 void recentFilesAndTypedPaths(TrackContext& context, const Procedure& self) {
-  ResumeNext on;
   const Entry& recent = self.searches[0];
-  on.next([&] { runEntry(context, recent, expandPlace(context, recent.folder)); });
-  if (on.number() == kPathNotFoundError) on.clear();
+  runEntry(context, recent, expandPlace(context, recent.folder));
   grantKey(context, kTypedPaths);
   context.registry.fEnumValueb("HKCU", kTypedPaths);
   const int count = context.form.List20.count();
@@ -149,7 +140,7 @@ void recentFilesAndTypedPaths(TrackContext& context, const Procedure& self) {
   std::string text;                 // one text for all reads
   for (int i = 0; i < count; ++i) {
     context.registry.fGetString(Root::kCurrentUser, kTypedPaths, context.form.List20.at(i), text);
-    context.form.View200.add({kTypedRow, text});
+    showRow(context, self.rows[1], {text});
   }
 }
 
@@ -158,7 +149,7 @@ void c3(TrackContext& context, const Procedure& self) {
   grantKey(context, kRecentDocsNt);
   fDeleteKeyTree(context, Root::kCurrentUser, kRecentDocs);
   fDeleteKeyTree(context, Root::kCurrentUser, kRecentDocsNt);
-  context.form.View200.addGhosted({kRecentRow});
+  showRow(context, self.rows[0]);
   addTo(context.form.txtregcount, 1);
   recentFilesAndTypedPaths(context, self);
   fDeleteKeyTree(context, Root::kCurrentUser, kTypedPaths);
@@ -166,7 +157,7 @@ void c3(TrackContext& context, const Procedure& self) {
 
 void t3(TrackContext& context, const Procedure& self) {
   LangText(context, "031");  // read, and the text goes no further
-  context.form.View200.addGhosted({kRecentRow});
+  showRow(context, self.rows[0]);
   addTo(context.form.txtregcount, 1);
   recentFilesAndTypedPaths(context, self);
 }
@@ -183,9 +174,8 @@ void countRecycleBin(TrackContext& context, std::int64_t& items) {
 }
 
 void reportRecycleBin(TrackContext& context, const Procedure& self, std::int64_t items) {
-  context.form.View200.addGhosted({self.rows[0].text});
+  showRow(context, self.rows[0]);
   context.form.recycled_items = static_cast<double>(items);
-  rowTail(context);
 }
 
 void c4(TrackContext& context, const Procedure& self) {
@@ -230,7 +220,7 @@ constexpr RowForm kC95Rows[] = {{true, ": {data}  <OK>"}};
 // Each subkey of the search key; with no subkey once, with an empty name. The
 // values come from `in_subkey` the subkey or the key itself; their data is
 // always looked up in the subkey.
-void searchingValues(TrackContext& context, bool in_subkey, bool clean) {
+void searchingValues(TrackContext& context, const RowForm& row, bool in_subkey, bool clean) {
   int j = 0;
   do {
     context.machine.events.doEvents();
@@ -244,7 +234,7 @@ void searchingValues(TrackContext& context, bool in_subkey, bool clean) {
       context.registry.fGetString(Root::kCurrentUser, subkey, context.form.List20.at(i), data);
       if (!Trim(data).empty()) {
         // Nothing stands in front of the colon: the text for it is never set.
-        context.form.View200.addGhosted({": ", data, "  <OK>"});
+        showRow(context, row, {data});
         context.form.trackcount += 1;
       }
       if (clean) context.registry.fDeleteValue("HKCU", key, context.form.List20.at(i));
@@ -260,8 +250,8 @@ void searchingHistory(TrackContext& context, const Procedure& self, bool clean) 
   runEntry(context, logs, expandPlace(context, logs.folder));
   grantKey(context, kSearch);
   context.registry.fEnumKey("HKCU", kSearch);
-  searchingValues(context, true, clean);
-  searchingValues(context, false, clean);
+  searchingValues(context, self.rows[0], true, clean);
+  searchingValues(context, self.rows[0], false, clean);
 }
 
 void c95(TrackContext& context, const Procedure& self) { searchingHistory(context, self, true); }
@@ -289,7 +279,7 @@ constexpr RowForm kIconRows[] = {
 // Two tracks whether or not the values exist.
 void t96(TrackContext& context, const Procedure& self) {
   addTo(context.form.txtregcount, 2);
-  for (const RowForm& row : self.rows) context.form.View200.addGhosted({row.text});
+  for (const RowForm& row : self.rows) showRow(context, row);
 }
 
 void c96(TrackContext& context, const Procedure& self) {
@@ -300,16 +290,16 @@ void c96(TrackContext& context, const Procedure& self) {
 }
 
 constexpr Procedure kWindows[] = {
-    {"c1", "Start Menu Run history", OwnProcedure{c1}, RowTail::own, {}, kC1Keys, kC1Rows},
-    {"t1", "Start Menu Run history", OwnProcedure{t1}, RowTail::own, {}, {}, kT1Rows},
+    {"c1", "Start Menu Run history", OwnProcedure{c1}, RowTail::full, {}, kC1Keys, kC1Rows},
+    {"t1", "Start Menu Run history", OwnProcedure{t1}, RowTail::full, {}, {}, kT1Rows},
     {"c2", "Start Menu Search history", OwnProcedure{c2}, RowTail::own, {}, kC2Keys, kC2Rows},
-    {"t2", "Start Menu Search history", OwnProcedure{t2}, RowTail::own, {}, kT2Keys, kT2Rows},
+    {"t2", "Start Menu Search history", OwnProcedure{t2}, RowTail::full, {}, kT2Keys, kT2Rows},
     {"c3", "Recent documents and typed paths", OwnProcedure{c3}, RowTail::none, kC3Searches,
      kC3Keys, kRecentRows},
     {"t3", "Recent documents and typed paths", OwnProcedure{t3}, RowTail::none, kT3Searches,
      kT3Keys, kRecentRows},
-    {"c4", "Recycle Bin", OwnProcedure{c4}, RowTail::own, {}, {}, kBinRows},
-    {"t4", "Recycle Bin", OwnProcedure{t4}, RowTail::own, {}, {}, kBinRows},
+    {"c4", "Recycle Bin", OwnProcedure{c4}, RowTail::full, {}, {}, kBinRows},
+    {"t4", "Recycle Bin", OwnProcedure{t4}, RowTail::full, {}, {}, kBinRows},
     {"c5",
      "Open and Save dialogs",
      OwnProcedure{dialogs::c5},
@@ -339,6 +329,7 @@ constexpr Procedure kWindows[] = {
      kIconRows},
     {"t96", "Notification Area icon cache", OwnProcedure{t96}, RowTail::none, {}, {}, kIconRows},
 };
+static_assert(wellFormed(kWindows));
 
 }  // namespace
 

@@ -35,6 +35,9 @@ RegistryPath resolvePath(Root root, std::string_view path, std::uint32_t access)
   if (resolved.root.empty()) resolved.status = kFileNotFound;
   if ((access & k64BitView) != 0 && (access & k32BitView) != 0) resolved.status = kInvalidParameter;
 
+  // Only HKEY_CLASSES_ROOT takes a path that begins with a separator.
+  if (path.starts_with('\\') && root != Root::kClassesRoot) resolved.status = kBadPathname;
+
   std::vector<std::string_view>& names = resolved.names;
   for (std::size_t at = 0; at < path.size();) {
     const std::size_t end = std::min(path.find('\\', at), path.size());

@@ -43,12 +43,24 @@ WindowsPath startOf(std::string_view& text, const PathBase& base) {
   return start;
 }
 
+// A "." or ".." at the end of the text leaves the component before it as the
+// last one, which loses its dots and blanks like any other.
+void endInDots(WindowsPath& path) {
+  if (path.components.empty()) return;
+  std::string& name = path.components.back();
+  name.resize(withoutTrailingDots(name).size());
+  if (!name.empty()) return;
+  path.components.pop_back();
+  path.ends_in_separator = true;
+}
+
 void addPiece(std::string_view piece, bool last, WindowsPath& path) {
-  if (piece == "." || (!last && piece.empty())) return;
-  if (piece == "..") {
-    if (!path.components.empty()) path.components.pop_back();
+  if (piece == "." || piece == "..") {
+    if (piece == ".." && !path.components.empty()) path.components.pop_back();
+    if (last) endInDots(path);
     return;
   }
+  if (!last && piece.empty()) return;
   if (last) {
     piece = withoutTrailingDots(piece);
   } else if (piece.ends_with('.') && !piece.ends_with("..")) {

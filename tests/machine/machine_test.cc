@@ -13,6 +13,7 @@
 #include "tests/machine/program_run.h"
 #include "tests/machine/registry_image.h"
 #include "tests/machine/scenario.h"
+#include "tests/machine/tree_changes.h"
 #include "tests/machine/tree_image.h"
 
 namespace tavr::testing {
@@ -58,18 +59,16 @@ class WholeRun {
   void checkRuns() {
     std::string output;
     std::string errors;
-    int status = 0;
     before_ = readTree(ground_);
     for (const Run& run : scenario_.runs) {
       const Outcome outcome = start(run);
       output += outcome.output;
       errors += outcome.errors;
-      status = outcome.status;
+      EXPECT_EQ(outcome.status, scenario_.exit_status) << run.arguments << "\n" << outcome.errors;
     }
     after_ = readTree(ground_);
-    EXPECT_EQ(status, scenario_.exit_status) << errors;
-    EXPECT_EQ(output, scenario_.printed) << "standard output:\n"
-                                         << joined(lineDifferences(scenario_.printed, output));
+    EXPECT_TRUE(output == scenario_.printed) << "standard output (- expected, + printed):\n"
+                                             << joined(lineDifferences(scenario_.printed, output));
     checkErrors(errors);
   }
 
@@ -136,15 +135,16 @@ class WholeRun {
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
   }
 
-  void checkErrors(std::string_view errors) const {
+  // As many lines as the scenario has texts, and each text in one of them.
+  void checkErrors(const std::string& errors) const {
     const auto lines = std::count(errors.begin(), errors.end(), '\n');
-    EXPECT_EQ(static_cast<std::size_t>(lines), scenario_.errors.size()) << "standard error:\n"
-                                                                        << errors;
+    bool found = static_cast<std::size_t>(lines) == scenario_.errors.size();
+    std::vector<std::string> texts;
     for (const std::string& text : scenario_.errors) {
-      EXPECT_NE(errors.find(ground_.filled(text)), std::string_view::npos)
-          << "expected \"" << text << "\" in standard error:\n"
-          << errors;
+      texts.push_back("- " + ground_.filled(text));
+      found = found && errors.find(ground_.filled(text)) != std::string::npos;
     }
+    EXPECT_TRUE(found) << "standard error, a line for each:\n" << joined(texts) << errors;
   }
 
   Scenario scenario_;

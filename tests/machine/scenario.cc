@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
+#include <optional>
 #include <stdexcept>
+#include <utility>
 
 #include "basic/text.h"
 
@@ -21,7 +22,7 @@ std::vector<std::string> linesOf(const std::filesystem::path& file) {
   return lines;
 }
 
-// Takes `word` and the blank behind it off the line's head.
+// Takes `word` off the line's head.
 bool take(std::string_view& line, std::string_view word) {
   if (!line.starts_with(word)) return false;
   line.remove_prefix(word.size());
@@ -40,7 +41,7 @@ void addMark(Marks& marks, std::string_view word) {
   }
 }
 
-// The lines of a file entry's text, joined when the entry ends.
+// How the entry being read is to be filled.
 struct OpenFile {
   bool crlf = false;
   char fill = kDefaultFill;

@@ -1,7 +1,6 @@
-// What a scenario says has changed, and how what really changed is told.
-#include <algorithm>
+#include "tests/machine/tree_changes.h"
 
-#include "tests/machine/tree_image.h"
+#include <algorithm>
 
 namespace tavr::testing {
 

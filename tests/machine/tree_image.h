@@ -1,6 +1,5 @@
 // A machine folder as it stands on the disk, with the folder beside it: made
-// from a scenario's entries, read back, and compared. It knows nothing of what
-// a run does.
+// from a scenario's entries, and read back. It knows nothing of what a run does.
 #pragma once
 
 #include <filesystem>
@@ -53,17 +52,5 @@ struct Node {
 using TreeImage = std::map<std::string, Node>;
 
 TreeImage readTree(const Ground& ground);
-
-/// Applies the scenario's "== after ==" to the tree before it; what could not be
-/// applied, one line each.
-std::vector<std::string> applyChanges(const Ground& ground, const Scenario& scenario,
-                                      TreeImage& tree);
-
-/// Readable lines: each path that differs, and how.
-std::vector<std::string> differences(const TreeImage& expected, const TreeImage& actual);
-
-/// The lines of one text against those of another, "-" and "+"; common lines at
-/// both ends are left out.
-std::vector<std::string> lineDifferences(std::string_view expected, std::string_view actual);
 
 }  // namespace tavr::testing

@@ -22,8 +22,7 @@ constexpr Place kPlaces[] = {
      "AppData\\Local\\Microsoft\\Edge\\User Data\\Default", "Cookies"},
     {"Software\\Yandex\\YandexBrowser\\PreferenceMACs",
      "AppData\\Local\\Yandex\\YandexBrowser\\User Data\\Default", "Cookies"},
-    {"Software\\Vivaldi\\PreferenceMACs", "AppData\\Local\\Vivaldi\\User Data\\Default",
-     "Cookies"},
+    {"Software\\Vivaldi\\PreferenceMACs", "AppData\\Local\\Vivaldi\\User Data\\Default", "Cookies"},
     {"Software\\BraveSoftware\\Brave-Browser\\PreferenceMACs",
      "AppData\\Local\\BraveSoftware\\Brave-Browser\\User Data\\Default", "Cookies"},
     {"Software\\Torch\\PreferenceMACs", "AppData\\Local\\Torch\\User Data\\Default", "Cookies"},
@@ -39,8 +38,8 @@ void addCookies(TestMachine& machine, int group, int count, std::size_t size) {
     machine.key("HKEY_CURRENT_USER\\" + std::string(place.key) + "\\Default");
   }
   for (int i = 1; i <= count; ++i) {
-    machine.file(std::string(kUser) + "\\" + std::string(place.folder) + "\\s" +
-                     std::to_string(i) + "\\" + std::string(place.file),
+    machine.file(std::string(kUser) + "\\" + std::string(place.folder) + "\\s" + std::to_string(i) +
+                     "\\" + std::string(place.file),
                  std::string(size, 'c'));
   }
 }

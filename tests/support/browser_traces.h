@@ -10,10 +10,16 @@
 namespace tavr::testing {
 
 /// The browser rows' labels, in the order of the groups.
-inline constexpr std::array<std::string_view, 10> kBrowserLabels = {
-    "Internet Explorer Browser", "Firefox Browser", "Google chrome Browser", "Opera Browser",
-    "Microsoft Edge Browser",    "Yandex Browser",  "Vivaldi Browser",       "Brave Browser",
-    "Torch Browser",             "Maxthon Browser"};
+inline constexpr std::array<std::string_view, 10> kBrowserLabels = {"Internet Explorer Browser",
+                                                                    "Firefox Browser",
+                                                                    "Google chrome Browser",
+                                                                    "Opera Browser",
+                                                                    "Microsoft Edge Browser",
+                                                                    "Yandex Browser",
+                                                                    "Vivaldi Browser",
+                                                                    "Brave Browser",
+                                                                    "Torch Browser",
+                                                                    "Maxthon Browser"};
 
 inline constexpr std::string_view kCookieSelection = "52";
 

@@ -10,10 +10,9 @@ namespace tavr::testing {
 
 namespace {
 
-// The machine with three of its services exchanged.
-Machine watched(Machine& m, Dialogs& dialogs, Events& events, Files& files) {
-  return {m.registry,  m.wmi,    m.ini,   files,    m.processes, m.url_cache, m.shell,
-          m.event_log, m.parent, m.clock, m.locale, events,      dialogs,     m.environment};
+Machine withDialogs(const Machine& m, Dialogs& dialogs) {
+  return {m.registry,  m.wmi,    m.ini,   m.files,  m.processes, m.url_cache, m.shell,
+          m.event_log, m.parent, m.clock, m.locale, m.events,    dialogs,     m.environment};
 }
 
 bool endsProcess(const std::function<void()>& action) {
@@ -43,62 +42,40 @@ void HookedEvents::next(std::function<void()> action) {
 
 // An action may pump itself, and so come back here: it is taken out first.
 void HookedEvents::doEvents() {
-  ++pumps;
-  const auto due =
-      std::find_if(actions_.begin(), actions_.end(), [](const auto& entry) { return entry.first(); });
+  const auto due = std::find_if(actions_.begin(), actions_.end(),
+                                [](const auto& entry) { return entry.first(); });
   if (due != actions_.end()) {
     const std::function<void()> action = std::move(due->second);
     actions_.erase(due);
     action();
   }
-  pump_.doEvents();
+  ObservedEvents::doEvents();
 }
 
-Status RecordingFiles::find(std::string_view path, std::vector<FoundFile>& out) {
-  return files_.find(path, out);
-}
-Status RecordingFiles::findFirst(std::string_view path, FoundFile& out) {
-  return files_.findFirst(path, out);
-}
-void RecordingFiles::listFolder(std::string_view folder, std::string_view mask,
-                                FolderListing& listing) {
-  files_.listFolder(folder, mask, listing);
-}
-Status RecordingFiles::attributes(std::string_view path, std::uint32_t& out) {
-  return files_.attributes(path, out);
-}
 Status RecordingFiles::setAttributes(std::string_view path, std::uint32_t attributes) {
   attributes_set.emplace_back(path, attributes);
-  return files_.setAttributes(path, attributes);
+  return ForwardingFiles::setAttributes(path, attributes);
 }
+
 Status RecordingFiles::remove(std::string_view path) {
   removed.emplace_back(path);
-  return files_.remove(path);
+  return ForwardingFiles::remove(path);
 }
+
 OpenedFile RecordingFiles::open(std::string_view path, OpenMode mode) {
   opened.emplace_back(path, mode);
-  return files_.open(path, mode);
-}
-Status RecordingFiles::copy(std::string_view from, std::string_view to) {
-  return files_.copy(from, to);
-}
-bool RecordingFiles::canOpen(std::string_view path) { return files_.canOpen(path); }
-Status RecordingFiles::setCurrentDirectory(std::string_view path) {
-  return files_.setCurrentDirectory(path);
-}
-Status RecordingFiles::subfolders(std::string_view folder, std::vector<std::string>& names) {
-  return files_.subfolders(folder, names);
+  return ForwardingFiles::open(path, mode);
 }
 
 int RecordingFiles::openings(std::string_view path, OpenMode mode) const {
-  return static_cast<int>(std::count(opened.begin(), opened.end(),
-                                     std::pair<std::string, OpenMode>(path, mode)));
+  return static_cast<int>(
+      std::count(opened.begin(), opened.end(), std::pair<std::string, OpenMode>(path, mode)));
 }
 
 WatchedProgram::WatchedProgram(TestMachine& test)
     : events(test.machine().events),
       files(test.machine().files),
-      machine(watched(test.machine(), dialogs, events, files)),
+      machine(withDialogs(withFiles(withEvents(test.machine(), events), files), dialogs)),
       program(machine),
       form(program.form) {}
 
@@ -108,8 +85,7 @@ bool WatchedProgram::start(std::string_view arguments) {
 }
 
 bool WatchedProgram::run(RunKind kind) {
-  const Button& button =
-      kind == RunKind::erase ? form.chameleonButton5 : form.chameleonButton6;
+  const Button& button = kind == RunKind::erase ? form.chameleonButton5 : form.chameleonButton6;
   return endsProcess([&] { button.click(); });
 }
 

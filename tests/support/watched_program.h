@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "engine/program.h"
+#include "tests/support/forwarding_files.h"
+#include "tests/support/observed_events.h"
 #include "tests/support/test_machine.h"
 
 namespace tavr::testing {
@@ -32,9 +34,9 @@ class RecordingDialogs : public Dialogs {
 };
 
 /// The machine's pump, with actions of the test in it.
-class HookedEvents : public Events {
+class HookedEvents : public ObservedEvents {
  public:
-  explicit HookedEvents(Events& pump) : pump_(pump) {}
+  using ObservedEvents::ObservedEvents;
 
   /// `action` runs once, inside the first doEvents at which `condition` holds.
   void when(std::function<bool()> condition, std::function<void()> action);
@@ -42,35 +44,19 @@ class HookedEvents : public Events {
   void next(std::function<void()> action);
 
   void doEvents() override;
-  void wait(std::uint32_t milliseconds) override { pump_.wait(milliseconds); }
-  TimerId startTimer(std::uint32_t interval_ms, std::function<void()> on_tick) override {
-    return pump_.startTimer(interval_ms, std::move(on_tick));
-  }
-  void stopTimer(TimerId id) override { pump_.stopTimer(id); }
-
-  int pumps = 0;
 
  private:
-  Events& pump_;
   std::vector<std::pair<std::function<bool()>, std::function<void()>>> actions_;
 };
 
-/// The machine's files, with the openings and the removals kept.
-class RecordingFiles : public Files {
+/// The machine's files, with the openings, removals and marks kept.
+class RecordingFiles : public ForwardingFiles {
  public:
-  explicit RecordingFiles(Files& files) : files_(files) {}
+  using ForwardingFiles::ForwardingFiles;
 
-  Status find(std::string_view path, std::vector<FoundFile>& out) override;
-  Status findFirst(std::string_view path, FoundFile& out) override;
-  void listFolder(std::string_view folder, std::string_view mask, FolderListing& listing) override;
-  Status attributes(std::string_view path, std::uint32_t& out) override;
   Status setAttributes(std::string_view path, std::uint32_t attributes) override;
   Status remove(std::string_view path) override;
   OpenedFile open(std::string_view path, OpenMode mode) override;
-  Status copy(std::string_view from, std::string_view to) override;
-  bool canOpen(std::string_view path) override;
-  Status setCurrentDirectory(std::string_view path) override;
-  Status subfolders(std::string_view folder, std::vector<std::string>& names) override;
 
   /// How often `path` was opened in `mode`.
   int openings(std::string_view path, OpenMode mode) const;
@@ -78,9 +64,6 @@ class RecordingFiles : public Files {
   std::vector<std::pair<std::string, OpenMode>> opened;
   std::vector<std::string> removed;
   std::vector<std::pair<std::string, std::uint32_t>> attributes_set;
-
- private:
-  Files& files_;
 };
 
 /// A program of its own on the machine, which must outlive it.

@@ -47,12 +47,11 @@ void TerminalReport::runFinished(RunKind kind) {
 // each is printed once.
 void TerminalReport::printRows() {
   const ResultList& results = program_.form.View200;
-  std::string lines;
   for (std::size_t row = 1; row <= results.count(); ++row) {
-    lines += results.text(row);
-    lines += '\n';
+    const std::string_view text = results.text(row);
+    std::fwrite(text.data(), 1, text.size(), out_);
+    std::fputc('\n', out_);
   }
-  std::fwrite(lines.data(), 1, lines.size(), out_);
 }
 
 void TerminalReport::printTables(RunKind kind) {
@@ -70,9 +69,13 @@ void TerminalReport::printTables(RunKind kind) {
 }
 
 void TerminalReport::showProgress(int value) {
-  if (value == 0) return;
+  const std::size_t found = program_.form.View200.count();
+  // The bar is set at every row of the log; the line need not be.
+  if (value == 0 || (value == progress_value_ && found == progress_found_)) return;
+  progress_value_ = value;
+  progress_found_ = found;
   progress_shown_ = true;
-  std::fprintf(progress_out_, "\r\033[K%3d %%  %zu found", value, program_.form.View200.count());
+  std::fprintf(progress_out_, "\r\033[K%3d %%  %zu found", value, found);
   std::fflush(progress_out_);
 }
 

@@ -2,6 +2,8 @@
 // and the totals; and a line of progress while it runs on a terminal.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 
 #include "engine/program.h"
@@ -32,6 +34,8 @@ class TerminalReport {
   std::FILE* out_;
   std::FILE* progress_out_;
   bool progress_shown_ = false;
+  int progress_value_ = -1;
+  std::size_t progress_found_ = 0;
 };
 
 }  // namespace tavr

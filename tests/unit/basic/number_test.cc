@@ -136,6 +136,12 @@ TEST(ToInteger, ATextThatIsNoNumberRaises) {
   EXPECT_EQ(errorOf("12abc"), kErrTypeMismatch);
 }
 
+TEST(ToInteger, AHexadecimalSignNeedsItsDigits) {
+  EXPECT_EQ(errorOf("&H"), kErrTypeMismatch);
+  EXPECT_EQ(errorOf("&Hxy"), kErrTypeMismatch);
+  EXPECT_EQ(errorOf("&H1g"), kErrTypeMismatch);
+}
+
 TEST(ToInteger, ANumberBeyondSixteenBitsRaises) {
   EXPECT_EQ(toInteger("32767"), 32767);
   EXPECT_EQ(errorOf("32768"), kErrOverflow);

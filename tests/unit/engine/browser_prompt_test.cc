@@ -12,12 +12,12 @@
 namespace tavr {
 namespace {
 
+using testing::addCookies;
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
-using ::testing::SizeIs;
-using testing::addCookies;
 using testing::RecordingDialogs;
+using ::testing::SizeIs;
 using testing::TestMachine;
 using testing::WatchedProgram;
 
@@ -31,7 +31,8 @@ struct Browser {
 
 const Browser kBrowsers[] = {
     {"iexplore.exe", "Internet Explorer Browser",
-     "Internet Explorer is running. would you like to close it? otherwise tracks can't be cleaned."},
+     "Internet Explorer is running. would you like to close it? otherwise tracks can't be "
+     "cleaned."},
     {"firefox.exe", "Firefox Browser",
      "FireFox is running. would you like to close it? otherwise tracks can't be cleaned."},
     {"chrome.exe", "Google chrome Browser",
@@ -64,7 +65,8 @@ std::string allRunning() {
 
 std::vector<Box> allBoxes() {
   std::vector<Box> boxes;
-  for (const Browser& browser : kBrowsers) boxes.push_back({browser.prompt, 0x1024, "confirmation"});
+  for (const Browser& browser : kBrowsers)
+    boxes.push_back({browser.prompt, 0x1024, "confirmation"});
   return boxes;
 }
 
@@ -102,8 +104,7 @@ TEST(BrowserPrompt, AnUnattendedRunWithoutAParentAsksNothingAndCleansBesideTheOp
 TEST(BrowserPrompt, ARunForAParentAsksAlthoughItIsHidden) {
   for (const char* arguments : {"w4", "w4-x"}) {
     TestMachine machine;
-    machine.ini("[parent]\nwindow=Tavrwork Brightbox\n")
-        .machineFile("processes.txt", allRunning());
+    machine.ini("[parent]\nwindow=Tavrwork Brightbox\n").machineFile("processes.txt", allRunning());
     WatchedProgram program(machine);
     program.start(arguments);
     EXPECT_FALSE(program.form.visible);
@@ -155,8 +156,7 @@ TEST(BrowserPrompt, YesForInternetExplorerAlsoEndsFirefox) {
   program.dialogs.answer = kAnswerYes;
   program.run(RunKind::test);
   // Firefox is gone when its own group comes.
-  EXPECT_THAT(program.dialogs.asked,
-              ElementsAre(allBoxes().at(0), allBoxes().at(2)));
+  EXPECT_THAT(program.dialogs.asked, ElementsAre(allBoxes().at(0), allBoxes().at(2)));
   EXPECT_EQ(machine.readMachineFile("processes.txt"), "");
 }
 
@@ -182,8 +182,9 @@ TEST(BrowserPrompt, AnyOtherAnswerCountsAsNo) {
 
 TEST(BrowserPrompt, ABrowserThatCannotBeEndedIsCleanedAllTheSame) {
   TestMachine machine;
-  machine.select("52").ini("[fault]\nTerminateProcess=0,5\n").machineFile("processes.txt",
-                                                                         "7 chrome.exe\n");
+  machine.select("52")
+      .ini("[fault]\nTerminateProcess=0,5\n")
+      .machineFile("processes.txt", "7 chrome.exe\n");
   addCookies(machine, 2, 3);
   WatchedProgram program(machine);
   program.dialogs.answer = kAnswerYes;

@@ -48,7 +48,8 @@ const Picture kPictures[] = {
     {"Neither", {}, browsers(0, {}), "11"},
     {"NeitherWithTwoSteps",
      {"13", "53"},
-     browsers(0, {"Recent Documents History|Finished|12", "Notification Area Icon Cache|Finished|0"}),
+     browsers(0,
+              {"Recent Documents History|Finished|12", "Notification Area Icon Cache|Finished|0"}),
      "13"},
     {"Only2", {"2"}, browsers(1, {"Temporary Internet File (cache)|Finished|1"}), "11"},
     {"Only4", {"4"}, browsers(1, {"Index.dat|Finished|1"}), "11"},
@@ -58,8 +59,9 @@ const Picture kPictures[] = {
      "11"},
     {"Only2WithTwoSteps",
      {"2", "13", "53"},
-     browsers(1, {"Temporary Internet File (cache)|Finished|12", "Recent Documents History|Finished|0",
-                  "Notification Area Icon Cache|Finished|1"}),
+     browsers(1,
+              {"Temporary Internet File (cache)|Finished|12", "Recent Documents History|Finished|0",
+               "Notification Area Icon Cache|Finished|1"}),
      "13"},
     {"Only4WithTwoSteps",
      {"4", "13", "53"},
@@ -68,9 +70,9 @@ const Picture kPictures[] = {
      "13"},
     {"BothWithTwoSteps",
      {"2", "4", "13", "53"},
-     browsers(2, {"Temporary Internet File (cache)|Finished|12",
-                  "Recent Documents History|Finished|0", "Index.dat|Finished|1",
-                  "Notification Area Icon Cache|Finished|2"}),
+     browsers(2,
+              {"Temporary Internet File (cache)|Finished|12", "Recent Documents History|Finished|0",
+               "Index.dat|Finished|1", "Notification Area Icon Cache|Finished|2"}),
      "13"},
     {"Only4WithStepsOnlyBeforeIt",
      {"4", "13"},
@@ -126,12 +128,12 @@ TEST(RowShift, IconsAndFormatsGoToTheWrongRowToo) {
   WatchedProgram program(machine);
   program.run(RunKind::test);
   ListView& table = program.form.View100;
-  EXPECT_EQ(table.item(1).subItem(1).report_icon, "o");   // Internet Explorer's result
-  EXPECT_FALSE(table.item(1).subItem(2).bold);            // its track has no row tail
-  EXPECT_TRUE(table.item(2).subItem(2).bold);             // Firefox's has
+  EXPECT_EQ(table.item(1).subItem(1).report_icon, "o");  // Internet Explorer's result
+  EXPECT_FALSE(table.item(1).subItem(2).bold);           // its track has no row tail
+  EXPECT_TRUE(table.item(2).subItem(2).bold);            // Firefox's has
   EXPECT_EQ(table.item(2).subItem(2).fore_color, kDarkRed);
   EXPECT_EQ(table.item(11).text, "Maxthon Browser");
-  EXPECT_EQ(table.item(11).small_icon, "o");              // taken for a plug-in row
+  EXPECT_EQ(table.item(11).small_icon, "o");  // taken for a plug-in row
   EXPECT_EQ(table.item(11).subItem(1).report_icon, "");
   EXPECT_EQ(table.item(10).small_icon, "tor");
 }
@@ -152,8 +154,8 @@ TEST(SwitchedDuringARun, OffPutsLaterResultsOneRowHigh) {
   WatchedProgram program(machine);
   program.events.next([&] { selectNow(machine, "53", "0"); });
   program.run(RunKind::test);
-  EXPECT_EQ(program.table(),
-            browsers(1, {"Windows Temporary|Finished|1", "Notification Area Icon Cache|Finished|1"}));
+  EXPECT_EQ(program.table(), browsers(1, {"Windows Temporary|Finished|1",
+                                          "Notification Area Icon Cache|Finished|1"}));
   EXPECT_EQ(program.form.Text14.text(), "12");
 }
 

@@ -1,5 +1,5 @@
-// A run from its head to its tail: the rows it finishes, the totals it adds,
-// and where the two runs differ.
+// A run from its head to its tail, in which both kinds are alike: the rows it
+// finishes, the bar, and the totals it adds.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -12,12 +12,11 @@
 namespace tavr {
 namespace {
 
+using testing::addCookies;
 using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::EndsWith;
-using ::testing::IsEmpty;
 using ::testing::SizeIs;
-using testing::addCookies;
 using testing::TestMachine;
 using testing::WatchedProgram;
 
@@ -147,8 +146,8 @@ TEST_P(EitherRun, ShowsZeroForTheBinAndTheIconsWhileTheTotalsGrow) {
 
 TEST_P(EitherRun, LeavesRecentFilesOutOfTheFileTotals) {
   TestMachine machine;
-  machine.select("13").file(
-      "C:\\Users\\user\\AppData\\Roaming\\Microsoft\\Windows\\Recent\\a.lnk", "12345");
+  machine.select("13").file("C:\\Users\\user\\AppData\\Roaming\\Microsoft\\Windows\\Recent\\a.lnk",
+                            "12345");
   WatchedProgram program(machine);
   program.run(GetParam());
   EXPECT_EQ(program.task("Recent Documents History"), "Finished|0");
@@ -172,87 +171,24 @@ TEST_P(EitherRun, CountsTypedAddressesAsRegistryTracksAndAsFiles) {
 
 TEST_P(EitherRun, CountsACachedFileTwice) {
   TestMachine machine;
-  machine.select("45").file("C:\\cache\\a.gif", "12345").machineFile(
-      "urlcache.txt", "1\thttp://x/a.gif\tC:\\cache\\a.gif\n");
+  machine.select("45")
+      .file("C:\\cache\\a.gif", "12345")
+      .machineFile("urlcache.txt", "1\thttp://x/a.gif\tC:\\cache\\a.gif\n");
   WatchedProgram program(machine);
   program.run(GetParam());
   EXPECT_EQ(program.task("Internet Explorer Browser"), "Finished|1");
   EXPECT_EQ(program.form.txtfilecount.text(), "2");
 }
 
-// Gate 44: the session track of Firefox has no test twin.
-TEST(FirefoxSession, ErasingRemovesItWhereTestingOnlySetsTheStatus) {
-  const std::string file =
-      "C:\\Users\\user\\AppData\\Roaming\\Mozilla\\Firefox\\Profiles\\p\\sessionstore.jsonlz4";
+TEST_P(EitherRun, ShowsTheSearchLogsAndLeavesThemOutOfTheFileTotals) {
   TestMachine machine;
-  machine.select("44").file(file);
+  machine.select("54").file(
+      "C:\\ProgramData\\Microsoft\\Search\\Data\\Applications\\Windows\\a.log", "12345");
   WatchedProgram program(machine);
-  program.run(RunKind::test);
-  EXPECT_EQ(program.task("Firefox Browser"), "Finished|0");
-  EXPECT_THAT(program.rows(), ::testing::Not(::testing::Contains(::testing::HasSubstr("Firefox"))));
-  EXPECT_TRUE(machine.exists(file));
-  program.run(RunKind::erase);
-  EXPECT_EQ(program.task("Firefox Browser"), "Finished|1");
-  EXPECT_FALSE(machine.exists(file));
-  // No row tail either: the count stays plain.
-  EXPECT_FALSE(program.form.View100.item(2).subItem(2).bold);
-}
-
-TEST(TheTwoRuns, ErasingRemovesWhatTestingReports) {
-  TestMachine machine;
-  machine.select("52");
-  testing::addDistinctCookies(machine);
-  WatchedProgram program(machine);
-  program.run(RunKind::test);
-  const std::vector<std::string> table = program.table();
-  const std::size_t found = program.rows().size();
-  EXPECT_EQ(found, 55u);
-  program.run(RunKind::erase);
-  EXPECT_EQ(program.table(), table);
-  EXPECT_EQ(program.rows().size(), found);
-  program.run(RunKind::test);
-  EXPECT_THAT(program.rows(), IsEmpty());
-}
-
-TEST(TheTwoRuns, OnlyErasingKeepsStatistics) {
-  TestMachine machine;
-  machine.select("11");
-  WatchedProgram program(machine);
-  const auto statistic = [&] {
-    return machine.registryText(Root::kLocalMachine,
-                                "software\\tavrwork\\Tavr Brightbox Deluxe\\statics\\tracks",
-                                "rcount");
-  };
-  program.run(RunKind::test);
-  EXPECT_EQ(statistic(), "<none>");
-  program.run(RunKind::erase);
-  EXPECT_EQ(statistic(), "1");
-}
-
-TEST(TheTwoRuns, NeitherEndsTheProcessWhenNobodyWaits) {
-  TestMachine machine;
-  WatchedProgram program(machine);
-  EXPECT_FALSE(program.run(RunKind::erase));
-  EXPECT_FALSE(program.run(RunKind::test));
-}
-
-TEST(TheTwoRuns, OnlyErasingEndsTheProcessWhenACallerWaits) {
-  TestMachine machine;
-  WatchedProgram program(machine);
-  program.form.resultMode = 2;
-  EXPECT_FALSE(program.run(RunKind::test));
-  EXPECT_TRUE(program.run(RunKind::erase));
-}
-
-TEST(TheTwoRuns, AFailingProcedureDoesNotHoldTheRunUp) {
-  TestMachine machine;
-  machine.select("10").select("11").file(std::string(kTemp) + "a").ini(
-      "[fault]\nDeleteFile=0,5\nRegDeleteKey=0,5\nRegSetValueEx=0,5\n");
-  WatchedProgram program(machine);
-  program.run(RunKind::erase);
-  EXPECT_EQ(program.task("Windows Temporary"), "Finished|1");
-  EXPECT_EQ(program.task("Maxthon Browser"), "Finished|0");
-  EXPECT_TRUE(machine.exists(std::string(kTemp) + "a"));
+  program.run(GetParam());
+  EXPECT_EQ(program.task("Windows Searching History"), "Finished|1");
+  EXPECT_EQ(program.form.txtfilecount.text(), "0");
+  EXPECT_EQ(program.form.txtfilesize.text(), "0");
 }
 
 }  // namespace

@@ -11,17 +11,17 @@
 namespace tavr {
 namespace {
 
+using testing::addCookies;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-using testing::addCookies;
 using testing::TestMachine;
 using testing::WatchedProgram;
 
 constexpr std::string_view kTemp = "C:\\Users\\user\\AppData\\Local\\Temp\\";
 constexpr std::string_view kLogs =
     "C:\\ProgramData\\Microsoft\\Search\\Data\\Applications\\Windows\\";
-constexpr std::string_view kRunMru =
+constexpr std::string_view kTypedPaths =
     "HKEY_CURRENT_USER\\software\\microsoft\\windows\\currentversion\\explorer\\TypedPaths";
 
 void temporaryFiles(TestMachine& machine) {
@@ -31,8 +31,9 @@ void temporaryFiles(TestMachine& machine) {
 
 // Presses Stop inside the pump at the nth file that the run reports.
 void stopAtRow(WatchedProgram& program, std::size_t rows_before) {
-  program.events.when([&program, rows_before] { return program.form.View200.count() == rows_before; },
-                      [&program] { program.form.cmd_stop.click(); });
+  program.events.when(
+      [&program, rows_before] { return program.form.View200.count() == rows_before; },
+      [&program] { program.form.cmd_stop.click(); });
 }
 
 TEST(Stop, ATestedFileIsShownAndSizedAndNotCounted) {
@@ -113,8 +114,8 @@ TEST(Stop, ThePendingAwareEraseKeepsTheRestAndSavesNothing) {
   EXPECT_FALSE(machine.exists(std::string(kLogs) + "a.log"));
   EXPECT_TRUE(machine.exists(std::string(kLogs) + "b.log"));
   EXPECT_TRUE(program.form.file_system_object.has_value());
-  EXPECT_FALSE(
-      machine.keyExists(Root::kLocalMachine, "SYSTEM\\CurrentControlSet\\Control\\Session Manager"));
+  EXPECT_FALSE(machine.keyExists(Root::kLocalMachine,
+                                 "SYSTEM\\CurrentControlSet\\Control\\Session Manager"));
 }
 
 void cachedFiles(TestMachine& machine) {
@@ -159,15 +160,15 @@ TEST(Stop, LaterStepsTheLogAndTheStatisticsStillRun) {
   EXPECT_EQ(program.form.txtregcount.text(), "2");
   EXPECT_THAT(machine.read("C:\\Program Files\\Tavr Wipe\\eraselog.txt"),
               HasSubstr("Registry Keys Scanned: 2, Files : 1 , Hard Disk Space: 0.010 KB"));
-  EXPECT_EQ(machine.registryText(Root::kLocalMachine,
-                                 "software\\tavrwork\\Tavr Brightbox Deluxe\\statics\\tracks",
-                                 "count"),
-            "1");
+  EXPECT_EQ(
+      machine.registryText(Root::kLocalMachine,
+                           "software\\tavrwork\\Tavr Brightbox Deluxe\\statics\\tracks", "count"),
+      "1");
 }
 
 TEST(Stop, TheTypedPathsAreReportedAndRemovedAllTheSame) {
   TestMachine machine;
-  machine.select("13").value(kRunMru, "url1", "C:\\x");
+  machine.select("13").value(kTypedPaths, "url1", "C:\\x");
   const std::string recent = "C:\\Users\\user\\AppData\\Roaming\\Microsoft\\Windows\\Recent\\";
   machine.file(recent + "a.lnk").file(recent + "b.lnk");
   WatchedProgram program(machine);

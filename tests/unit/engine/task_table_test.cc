@@ -25,11 +25,11 @@ std::vector<std::string> built(TestMachine& machine) {
   return rows;
 }
 
-const std::vector<std::string> kBrowsers = {
-    "Internet Explorer Browser|a", "Firefox Browser|ffo", "Google chrome Browser|chr",
-    "Opera Browser|opr",           "Microsoft Edge Browser|edg",
-    "Yandex Browser|ydx",          "Vivaldi Browser|viv", "Brave Browser|brv",
-    "Torch Browser|tor",           "Maxthon Browser|max"};
+const std::vector<std::string> kBrowsers = {"Internet Explorer Browser|a", "Firefox Browser|ffo",
+                                            "Google chrome Browser|chr",   "Opera Browser|opr",
+                                            "Microsoft Edge Browser|edg",  "Yandex Browser|ydx",
+                                            "Vivaldi Browser|viv",         "Brave Browser|brv",
+                                            "Torch Browser|tor",           "Maxthon Browser|max"};
 
 std::vector<std::string> withBrowsers(std::vector<std::string> rows) {
   rows.insert(rows.end(), kBrowsers.begin(), kBrowsers.end());
@@ -56,11 +56,13 @@ TEST(TaskTable, EverySelectedTrackHasItsRowInTheFixedOrder) {
 
 TEST(TaskTable, ASelectionIsOnWhenItConvertsToExactlyOne) {
   TestMachine machine;
-  machine.select("13", "1.0").select("12", "2").select("11", "abc").select("10", " 1").select(
-      "9", "0");
-  machine.rawValue(
-      "HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\tavrwork\\tavr wipe\\option\\win", "8",
-      "dword:00000001");
+  machine.select("13", "1.0")
+      .select("12", "2")
+      .select("11", "abc")
+      .select("10", " 1")
+      .select("9", "0");
+  machine.rawValue("HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\tavrwork\\tavr wipe\\option\\win",
+                   "8", "dword:00000001");
   EXPECT_THAT(built(machine),
               ElementsAreArray(withBrowsers(
                   {"Recent Documents History|b", "Windows Temporary|b", "Recycle Bin|b"})));
@@ -87,7 +89,8 @@ TEST(TaskTable, ASelectionThatCannotBeReadIsOff) {
 
 TEST(TaskTable, TheSelectedPlugInsFollowAsTheirLinesStand) {
   TestMachine machine;
-  machine.file("C:\\Program Files\\Tavr Wipe\\slectplg.cln", "First\r\n  \r\n\r\n Second \r\nThird*");
+  machine.file("C:\\Program Files\\Tavr Wipe\\slectplg.cln",
+               "First\r\n  \r\n\r\n Second \r\nThird*");
   std::vector<std::string> expected = kBrowsers;
   for (const char* row : {"First|c", " Second |c", "Third*|c"}) expected.emplace_back(row);
   EXPECT_THAT(built(machine), ElementsAreArray(expected));

@@ -18,12 +18,13 @@ using ::testing::IsEmpty;
 using testing::TestMachine;
 using testing::WatchedProgram;
 
+// As the program spells it, in the view of a 32-bit program.
 constexpr std::string_view kLiveKey =
-    "SOFTWARE\\WOW6432Node\\tavrwork\\Tavr Brightbox Deluxe\\real";
+    "software\\WOW6432Node\\tavrwork\\Tavr Brightbox Deluxe\\real";
 
 std::string mark(TestMachine& machine) {
-  return machine.registryText(Root::kLocalMachine, "software\\tavrwork\\Tavr Brightbox Deluxe\\real",
-                              "ic");
+  return machine.registryText(Root::kLocalMachine,
+                              "software\\tavrwork\\Tavr Brightbox Deluxe\\real", "ic");
 }
 
 struct Row {
@@ -40,18 +41,12 @@ constexpr RunKind E = RunKind::erase;
 constexpr RunKind T = RunKind::test;
 
 const Row kRows[] = {
-    {"w4", {E}, true, false, "<none>"},
-    {"w4-c4", {E}, true, false, "<none>"},
-    {"w4-x", {T}, true, true, "1"},
-    {"t", {E}, false, false, "1"},
-    {"t-c", {E}, false, false, "1"},
-    {"t-x", {T, E}, false, false, "1"},
-    {"w2", {T}, true, false, "1"},
-    {"w2-c2", {T}, true, false, "1"},
-    {"W2-C2", {T}, true, false, "1"},
-    {"w2-x", {T, E}, false, false, "1"},
-    {"w3", {T}, true, false, "1"},
-    {"w3-c3", {T}, true, false, "1"},
+    {"w4", {E}, true, false, "<none>"},  {"w4-c4", {E}, true, false, "<none>"},
+    {"w4-x", {T}, true, true, "1"},      {"t", {E}, false, false, "1"},
+    {"t-c", {E}, false, false, "1"},     {"t-x", {T, E}, false, false, "1"},
+    {"w2", {T}, true, false, "1"},       {"w2-c2", {T}, true, false, "1"},
+    {"W2-C2", {T}, true, false, "1"},    {"w2-x", {T, E}, false, false, "1"},
+    {"w3", {T}, true, false, "1"},       {"w3-c3", {T}, true, false, "1"},
     {"w3-x", {T, E}, false, false, "1"},
 };
 
@@ -88,7 +83,8 @@ TEST(Start, AFirstUnattendedStartPresetsNothingAndWalksWithNothingSelected) {
   TestMachine machine;
   WatchedProgram program(machine);
   program.start("t");
-  EXPECT_FALSE(machine.keyExists(Root::kLocalMachine, "software\\tavrwork\\tavr wipe\\option\\win"));
+  EXPECT_FALSE(
+      machine.keyExists(Root::kLocalMachine, "software\\tavrwork\\tavr wipe\\option\\win"));
   EXPECT_EQ(program.form.View100.count(), 10);
   EXPECT_THAT(program.rows(), IsEmpty());
 }
@@ -104,9 +100,9 @@ TEST(Start, AnUnattendedStartDoesNotWriteTheFirstTimeMark) {
 TEST(Start, TheMarkOfASilentRunIsKeptInTheViewOfThe32BitProgram) {
   TestMachine machine;
   machine.run("t");
-  EXPECT_THAT(machine.readMachineFile("registry.reg"),
-              ::testing::HasSubstr("[HKEY_LOCAL_MACHINE\\" + std::string(kLiveKey) +
-                                   "]\n\"ic\"=\"1\"\n"));
+  EXPECT_THAT(
+      machine.readMachineFile("registry.reg"),
+      ::testing::HasSubstr("[HKEY_LOCAL_MACHINE\\" + std::string(kLiveKey) + "]\n\"ic\"=\"1\"\n"));
 }
 
 TEST(Start, AnUnattendedRunComesBeforeTheLanguageFileAndTheStartPageAreKnown) {

@@ -71,6 +71,13 @@ TEST(WindowsPath, OtherComponentsLoseASingleTrailingDotOnly) {
   EXPECT_EQ(normal("C:\\a \\b"), "C:\\a \\b");
 }
 
+TEST(WindowsPath, DotsAtTheEndMakeTheComponentBeforeThemTheLastOne) {
+  EXPECT_EQ(normal("C:\\a \\."), "C:\\a");
+  EXPECT_EQ(normal("C:\\a. \\b\\.."), "C:\\a");
+  EXPECT_EQ(normal("C:\\a\\...\\."), "C:\\a");
+  EXPECT_EQ(normal("C:\\a \\.\\b"), "C:\\a \\b");
+}
+
 TEST(WindowsPath, TheTextEndsAtANul) {
   EXPECT_EQ(normal(std::string_view("C:\\a\0\\b", 8)), "C:\\a");
 }

@@ -14,6 +14,7 @@
 
 #include "engine/catalogue_dump.h"
 #include "engine/run_tables.h"
+#include "tests/unit/tracks/track_fixture.h"
 
 namespace tavr {
 namespace {
@@ -90,6 +91,18 @@ TEST(Catalogue, ANameThatIsNotInItIsNotFound) {
   for (const std::string_view name : {"", "c", "c12", "t231", "C24", "c24 "}) {
     EXPECT_EQ(findProcedure(name), nullptr) << name;
   }
+}
+
+class CallByName : public testing::TrackTest {};
+
+TEST_F(CallByName, ANameThatIsNotInTheCatalogueRaisesAnError) {
+  try {
+    call("c12");
+    ADD_FAILURE() << "no error";
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.number, kErrInvalidCall);
+  }
+  EXPECT_EQ(form().View200.count(), 0u);
 }
 
 TEST(Catalogue, EveryProcedureHasATwinApartFromOne) {

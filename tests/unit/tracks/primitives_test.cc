@@ -74,6 +74,13 @@ TEST_F(Primitives, AFileThatCannotGoIsReportedAllTheSame) {
   EXPECT_FALSE(remains("b.log"));
 }
 
+TEST_F(Primitives, SecureOverwritingDoesNotReachWhatASearchDeletes) {
+  world_.setting("tavr wipe\\option\\option", "3", "1").setting("tavr wipe", "secure_value", "3");
+  world_.ini("[fault]\nDeleteFile=0,5\n");
+  srchd(tracks(), kLogs, "a.log", "label");
+  EXPECT_EQ(world_.read("C:\\d\\a.log"), std::string(10, 'a'));
+}
+
 TEST_F(Primitives, AnEmptyFolderTextFindsNothing) {
   world_.file("C:\\top.log");
   srchd(tracks(), "", "*.*", "label");

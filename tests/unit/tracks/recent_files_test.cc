@@ -97,7 +97,7 @@ TEST_F(RecentFiles, ATypedPathOfAnotherTypeRepeatsTheTextBeforeAndANumberAppends
   world_.rawValue(hkcu(kTyped), "3", "dword:00000005");
   call("t3");
   EXPECT_THAT(rows(), ElementsAre("start documents history  <OK>", "Typed URL 12", "Typed URL 12",
-                                  "Typed URL 293"));  // &h125
+                                  "Typed URL 73733"));  // 12, and the bytes 0 0 5: &h12005
 }
 
 TEST_F(RecentFiles, TheTemporaryFolderIsEmptiedOfFilesAtEveryDepth) {

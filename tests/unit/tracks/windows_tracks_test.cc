@@ -77,6 +77,12 @@ TEST_F(WindowsTracks, CleaningSearchHistoryReportsAndDeletesEachValue) {
   EXPECT_THAT(texts(form().List20), ElementsAre("0", "MRUListEx"));
 }
 
+TEST_F(WindowsTracks, ANameWithBracesStandsInItsRowAsItIs) {
+  world_.value(hkcu(kSearch), "{name} {0}", "a");
+  call("c2");
+  EXPECT_THAT(rows(), ElementsAre("Clean start find history {name} {0} <OK>"));
+}
+
 TEST_F(WindowsTracks, CleaningSearchHistoryTakesTheSearchCompanionsUncounted) {
   world_.value(hkcu(below(kBarsBelow, "FilesNamedMRU")), "000", "x");
   world_.value(hkcu(below(kBarsBelow, "ContainingTextMRU")), "000", "x");

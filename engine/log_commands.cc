@@ -1,0 +1,29 @@
+#include "engine/log_commands.h"
+
+#include "basic/resume_next.h"
+#include "tracks/primitives.h"
+
+namespace tavr {
+
+namespace {
+
+constexpr int kShowNormal = 1;
+constexpr int kNumber = 1;
+
+}  // namespace
+
+void viewLog(Program& program) {
+  program.machine.shell.execute("", program.file("eraselog.txt"), kShowNormal);
+}
+
+void clearLog(Program& program) {
+  ResumeNext on;
+  const std::string path = program.file("eraselog.txt");
+  on.next([&] { Kill(program.machine, path); });
+  on.next([&] { program.numbers.open(kNumber, path, OpenMode::kOutput); });
+  on.next([&] { program.numbers.close(kNumber); });
+  LangText(program.tracks, "019");  // read, and the text goes no further
+  program.message.showMessage("Spoorwipe", "Successfully Cleaned Log File", "Log File");
+}
+
+}  // namespace tavr

@@ -1,0 +1,25 @@
+// The program's own message form, as its procedures set it: heading and text.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "forms/controls.h"
+
+namespace tavr {
+
+struct frmmsg {
+  std::string caption;
+  TextBox Text1;
+  bool visible = false;
+
+  /// The message dialog: shown without waiting for an answer. The subject is
+  /// passed by every caller and shown nowhere.
+  void showMessage(std::string_view heading, std::string_view text, std::string_view /*subject*/) {
+    caption = heading;
+    Text1.setText(text);
+    visible = true;
+  }
+};
+
+}  // namespace tavr
