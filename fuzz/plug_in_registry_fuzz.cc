@@ -2,6 +2,7 @@
 // out a second time finds nothing more, and no other root is touched.
 #include <string_view>
 
+#include "basic/utf.h"
 #include "engine/plug_in_registry.h"
 #include "fuzz/checks.h"
 #include "fuzz/fuzz_machine.h"
@@ -48,7 +49,7 @@ void checkParsed(std::string_view line) {
   const tavr::PlugInRegistryLine parsed = tavr::parsePlugInRegistryLine(line);
   require(!parsed.root.empty() || parsed.path.empty(), "without a root there is no path");
   require(parsed.root.size() <= 4, "a root has its short name");
-  require(parsed.path.size() <= line.size(), "a path is of the line");
+  require(tavr::utf16Length(parsed.path) <= tavr::utf16Length(line), "a path is of the line");
 }
 
 }  // namespace

@@ -6,10 +6,10 @@
 // operation is not found (3), and nothing of the machine's own limits shows
 // otherwise. What is missing gives 2, a missing folder on the way to it 3, and
 // so does a file in a folder's place there; a name that no file can have gives
-// 123, and so does a "\" behind the name of a file. A read-only file refuses to be opened for writing or deleted (5);
-// a file that somebody else holds refuses to be opened or deleted (32), while
-// searches, attributes and sizes work on it. Links are followed inside the
-// machine; what leads out of it does not exist.
+// 123, and so does a "\" behind the name of a file. A read-only file refuses to
+// be opened for writing or deleted (5); a file that somebody else holds refuses
+// to be opened or deleted (32), while searches, attributes and sizes work on it.
+// Links are followed inside the machine; what leads out of it does not exist.
 #pragma once
 
 #include <cstdint>
@@ -79,18 +79,19 @@ class Files {
   /// FindFirstFile ... FindClose: every entry that matches the last part of
   /// `path`, in the machine's order, "." and ".." first where the pattern
   /// matches them. 2: nothing matches; 3: no such folder, or the path is too
-  /// long. "Name.*" matches "Name" too and "*.*" every name.
+  /// long; 267: the folder is a file. "Name.*" matches "Name" too and "*.*" every name.
   virtual Status find(std::string_view path, std::vector<FoundFile>& found) = 0;
 
   /// FindFirstFile alone: the first entry that matches. The path of a folder
-  /// (no pattern) gives the folder.
+  /// (no pattern) gives the folder. Errors as of find().
   virtual Status findFirst(std::string_view path, FoundFile& found) = 0;
 
   /// One folder of a recursive search: its subfolders (as F\*.* gives them) and
   /// the files that match F\mask, both in the machine's order. `folder` ends in
   /// "\". Each of the two is empty where its own text reaches 260 characters or
   /// the folder is missing. For the files, `attributes` may lack hidden and
-  /// system: `attributes()` gives these.
+  /// system: `attributes()` gives these. These are two searches, the folders' one
+  /// first, and one of them may fail alone.
   virtual void listFolder(std::string_view folder, std::string_view mask,
                           FolderListing& listing) = 0;
 

@@ -92,7 +92,8 @@ class Registry {
  public:
   virtual ~Registry() = default;
 
-  /// RegOpenKeyEx. 2: no such key, or an unknown root.
+  /// RegOpenKeyEx. 2: no such key; 6: `root` is none of the roots, which create
+  /// and deleteKey answer likewise.
   virtual OpenedKey open(Root root, std::string_view path, std::uint32_t access) = 0;
 
   /// RegCreateKeyEx with option 0 and the class text `key_class`: opens the key

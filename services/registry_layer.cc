@@ -58,7 +58,6 @@ Status RegistryLayer::fEnumKey(std::string_view root, std::string_view key, std:
   List12_.clear();
   const std::uint32_t code = fHiveCode(root);
   if (code == kNoRoot) return kUnknownRoot;
-  if (code == kFileRoot) return kInvalidHandle;  // no file branch here: the open fails
   const OpenedKey opened = machine_.registry.open(rootOf(code), key, kTrackAccess);
   if (opened.status != kSuccess) return opened.status;
   std::string name;
@@ -168,7 +167,6 @@ Status RegistryLayer::fDeleteKey(std::string_view root, std::string_view parent,
                                  std::string_view name) const {
   const std::uint32_t code = fHiveCode(root);
   if (code == kNoRoot) return kUnknownRoot;
-  if (code == kFileRoot) return kInvalidHandle;
   const OpenedKey opened = machine_.registry.open(rootOf(code), parent, kTrackAccess);
   if (opened.status != kSuccess) return missingIsSuccess(opened.status);
   return missingIsSuccess(opened.key->deleteKey(name));

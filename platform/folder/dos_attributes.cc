@@ -68,6 +68,9 @@ Status setDosAttributes(int directory, const char* name, const struct statx& fac
   const bool read_only = (attributes & kAttrReadOnly) != 0;
   const bool keeps = (attributes & kKept) == hiddenAndSystem(directory, name);
   if (keeps && read_only == was_read_only) return kSuccess;
+  // Attributes are the file's, not the name's, and its other name may be outside
+  // the machine.
+  if (!S_ISDIR(mode) && facts.stx_nlink > 1) return kAccessDenied;
 
   // A file must be writable for its extended attributes to change.
   if (was_read_only) {

@@ -22,7 +22,8 @@ std::uint32_t modeAttributes(const struct statx& facts);
 std::uint32_t hiddenAndSystem(int directory, const char* name);
 
 /// Sets or clears read-only, hidden and system, and writes only what changes.
-/// `facts` are the entry's own. 50: the host file system cannot keep them.
+/// `facts` are the entry's own. 5: something would change and the file has another
+/// name on the host; 50: the host file system cannot keep them.
 Status setDosAttributes(int directory, const char* name, const struct statx& facts,
                         std::uint32_t attributes);
 

@@ -19,15 +19,14 @@ constexpr int kOpenFlags = O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK;
 
 bool isReadOnly(const struct statx& facts) { return (facts.stx_mode & S_IWUSR) == 0; }
 
-bool isPlainFile(const FileDescriptor& file) {
-  struct stat facts {};
-  return ::fstat(file.get(), &facts) == 0 && S_ISREG(facts.st_mode);
-}
-
+// Asked of the open file, so that it cannot be another one by then.
 Status openExisting(const Node& node, int flags, FileDescriptor& file) {
   FileDescriptor opened(::openat(node.folder->fd(), node.name.c_str(), flags | kOpenFlags));
   if (!opened.valid()) return windowsError(errno);
-  if (!isPlainFile(opened)) return kAccessDenied;
+  struct stat facts {};
+  if (::fstat(opened.get(), &facts) != 0 || !S_ISREG(facts.st_mode)) return kAccessDenied;
+  // The other name may be outside the machine.
+  if (flags != O_RDONLY && facts.st_nlink > 1) return kAccessDenied;
   file = std::move(opened);
   return kSuccess;
 }
@@ -86,11 +85,10 @@ Status FolderFiles::setAttributes(std::string_view path, std::uint32_t attribute
 
 bool FolderFiles::removeWritable(std::string_view path) {
   const std::string_view folder = path.substr(0, path.rfind('\\') + 1);
-  if (!writable_folders_.contains(folder)) return false;
+  if (!locked_.empty() || !writable_folders_.contains(folder)) return false;
   Place place;
   return tree_.place(path, place) == kSuccess && hasNameCharacters(place.name) && !place.is_drive &&
-         !place.ends_in_separator && !locked_.holds(path) &&
-         ::unlinkat(place.folder->fd(), place.name.c_str(), 0) == 0;
+         !place.ends_in_separator && ::unlinkat(place.folder->fd(), place.name.c_str(), 0) == 0;
 }
 
 Status FolderFiles::remove(std::string_view path) {
@@ -99,7 +97,7 @@ Status FolderFiles::remove(std::string_view path) {
   Node node;
   if (const Status status = tree_.locate(path, node)) return status;
   if (node.isFolder()) return kAccessDenied;
-  if (locked_.holds(path)) return kSharingViolation;
+  if (locked_.holds(path, node.facts)) return kSharingViolation;
   if (isReadOnly(node.facts)) return kAccessDenied;
   const FolderRef& folder = node.isLink() ? node.link_folder : node.folder;
   const int failed = ::unlinkat(folder->fd(), node.shownName().c_str(), 0);
@@ -121,7 +119,7 @@ Status FolderFiles::openHost(std::string_view path, OpenMode mode, FileDescripto
   }
   if (status != kSuccess) return status;
   if (node.isFolder() || (writes && isReadOnly(node.facts))) return kAccessDenied;
-  if (locked_.holds(path)) return kSharingViolation;
+  if (locked_.holds(path, node.facts)) return kSharingViolation;
   if (const Status refused = openExisting(node, flags, file)) return refused;
   if (mode == OpenMode::kOutput && ::ftruncate(file.get(), 0) != 0) return windowsError(errno);
   return kSuccess;
@@ -182,6 +180,7 @@ Status FolderFiles::copy(std::string_view from, std::string_view to) {
 
 Status FolderFiles::setCurrentDirectory(std::string_view path) {
   if (const Status fault = directory_fault_.hit()) return fault;
+  writable_folders_.clear();  // a relative text leads elsewhere from now on
   return tree_.setCurrentDirectory(path);
 }
 

@@ -1,4 +1,8 @@
 // The files of a machine folder.
+//
+// A file with a second name on Linux (a hard link) may be outside the machine by
+// that name: it is neither opened for writing nor are its attributes changed (5).
+// It can be read, and deleted, which takes away the one name alone.
 #pragma once
 
 #include <functional>
@@ -50,7 +54,10 @@ class FolderFiles : public Files {
   LockedFiles locked_;
   // Folders, by the text they were searched with, in which the last listing saw
   // plain writable files only: a deletion there need not look at each again.
-  // Whatever the program itself changes empties it.
+  // Whatever the program itself changes empties it, and so does another current
+  // directory; where any file is locked it is not used. A file that somebody else
+  // makes read-only between a search and the deletion that follows it at once is
+  // deleted: the machine's programs do nothing in between.
   std::set<std::string, std::less<>> writable_folders_;
   EntryList entries_;  // of the folder listed last; kept for its memory
   Faults::Point& find_fault_;

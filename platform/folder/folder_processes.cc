@@ -10,8 +10,6 @@ namespace tavr::folder {
 namespace {
 
 constexpr std::uint32_t kTerminateRight = 0x1;
-constexpr std::string_view kProviderMoniker =
-    "winmgmts:{impersonationLevel=impersonate}!\\\\.\\root\\default:StdRegProv";
 
 // The words of the one query that the machine knows, up to its name.
 constexpr std::string_view kQueryWords[] = {"select", "*",    "from", "Win32_Process",
@@ -133,7 +131,7 @@ FolderWmi::FolderWmi(FolderProcesses& processes, MakeProvider make_provider, Fau
       query_fault_(faults.point("ExecQuery")) {}
 
 std::unique_ptr<StdRegProv> FolderWmi::bindRegistryProvider(std::string_view moniker) {
-  if (bind_fault_.hit() != kSuccess || !sameText(moniker, kProviderMoniker)) return nullptr;
+  if (bind_fault_.hit() != kSuccess || !sameText(moniker, kRegistryProviderMoniker)) return nullptr;
   return make_provider_();
 }
 

@@ -103,7 +103,7 @@ class FolderRegistry::Key final : public RegistryKey {
   // The right to delete is the subkey's own: the handle's mask has no say.
   Status deleteKey(std::string_view subkey) override {
     if (const Status status = ready(points_.delete_key, 0)) return status;
-    const std::string path = path_ + "\\" + std::string(untilNul(subkey));
+    const std::string path = (path_.empty() ? "" : path_ + "\\") + std::string(untilNul(subkey));
     return deleteAt(tree_, resolvePath(root_, path, access_));
   }
 

@@ -1,14 +1,12 @@
 // The searching half of FolderFiles: FindFirstFile in its several uses.
 #include <fcntl.h>
 
-#include <cerrno>
 #include <utility>
 
 #include "basic/text.h"
 #include "basic/utf.h"
 #include "platform/folder/dos_attributes.h"
 #include "platform/folder/folder_files.h"
-#include "platform/folder/host_error.h"
 
 namespace tavr::folder {
 
@@ -112,7 +110,9 @@ Status FolderFiles::findFirst(std::string_view path, FoundFile& found) {
   }
   if (const Status fault = find_fault_.hit()) return fault;
   Place place;
-  if (const Status status = tree_.place(path, place)) return status;
+  if (const Status status = tree_.place(path, place)) {
+    return status == kPathNotFound && tree_.liesInFile(path) ? kDirectory : status;
+  }
   if (place.is_drive || place.ends_in_separator) return kFileNotFound;
   Node node;
   if (const Status status = tree_.lookup(place, node)) return status;
@@ -136,15 +136,13 @@ void FolderFiles::listFolder(std::string_view folder, std::string_view mask,
   listing.subfolders.clear();
   listing.files.clear();
   mask = untilNul(mask);
-  const bool plain = !withoutTrailingDots(mask).empty() && isPatternText(mask);
-  if (!plain && !mask.empty()) listFound(folder, mask, listing);
-  if (find_fault_.hit() != kSuccess) {
-    listing = {};
-    return;
-  }
+  const bool plain = mask.empty() || (!withoutTrailingDots(mask).empty() && isPatternText(mask));
   const std::size_t length = utf16Length(folder);
-  const bool lists_folders = length + 3 < kMaxPath;
-  const bool lists_files = plain && length + utf16Length(mask) < kMaxPath;
+  // Two searches, each with a fault of its own; the folders' one comes first.
+  const bool lists_folders = find_fault_.hit() == kSuccess && length + 3 < kMaxPath;
+  if (!plain) listFound(folder, mask, listing);
+  const bool lists_files = plain && find_fault_.hit() == kSuccess && !mask.empty() &&
+                           length + utf16Length(mask) < kMaxPath;
   FolderRef opened;
   if ((!lists_folders && !lists_files) || tree_.openFolder(folder, opened) != kSuccess) return;
   const NamePattern pattern(mask);

@@ -116,7 +116,16 @@ Status FolderTree::placeOfSearch(std::string_view text, Place& place) {
   WindowsPath path;
   if (const Status status = parse(text, path)) return status;
   dropFrom(path.components.empty() ? 0 : path.components.size() - 1);
-  return this->place(text, place);
+  const Status status = this->place(text, place);
+  return status == kPathNotFound && liesInFile(text) ? kDirectory : status;
+}
+
+bool FolderTree::liesInFile(std::string_view text) {
+  WindowsPath path;
+  if (parse(text, path) != kSuccess || path.components.size() < 2) return false;
+  path.components.pop_back();
+  Node node;
+  return locate(pathText(path), node) == kSuccess && !node.isFolder();
 }
 
 // True when the place's folder was kept open and its path leads to another one

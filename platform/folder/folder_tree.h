@@ -39,8 +39,11 @@ class FolderTree {
 
   /// 3: a folder on the way is missing, or the text is too long; 123.
   Status place(std::string_view text, Place& place);
-  /// The same with the folder opened anew, as a search of it needs.
+  /// The same with the folder opened anew, as a search of it needs. 267: the
+  /// folder is a file.
   Status placeOfSearch(std::string_view text, Place& place);
+  /// Is the folder of this path a file?
+  bool liesInFile(std::string_view text);
 
   /// The file or folder at a place. 2: missing; 3: a missing drive; 123: no
   /// file can have that name.

@@ -65,6 +65,15 @@ void requireUsable(const std::string& directory) {
   if (!takesFiles(directory)) throw UnusableMachine(directory + ": cannot be written to");
 }
 
+// Links resolved once: the machine's files are all those of one folder, whatever
+// becomes of the way to it.
+std::string realPath(const std::string& directory) {
+  const std::unique_ptr<char, decltype(&std::free)> path(::realpath(directory.c_str(), nullptr),
+                                                         &std::free);
+  if (!path) throw UnusableMachine(directory + ": " + std::strerror(errno));
+  return path.get();
+}
+
 MachineIni readIni(const std::string& directory) {
   return parseMachineIni(readMachineFile(directory, "machine.ini").value_or(""));
 }
@@ -90,7 +99,8 @@ std::unique_ptr<MachineClock> makeClock(const MachineIni& ini) {
 
 // In the order of their building: what stands below uses what stands above.
 struct MachineFolder::Parts {
-  Parts(const std::string& folder, AskPerson ask) : directory(folder), ask_person(std::move(ask)) {}
+  Parts(std::string real_path, AskPerson ask)
+      : directory(std::move(real_path)), ask_person(std::move(ask)) {}
 
   std::string directory;
   AskPerson ask_person;
@@ -126,7 +136,7 @@ struct MachineFolder::Parts {
 
   static Faults faultsOf(const MachineIni& ini) {
     Faults faults;
-    for (const FaultLine& fault : ini.faults) faults.set(fault.operation, fault.nth, fault.error);
+    for (const FaultLine& fault : ini.faults) faults.add(fault.operation, fault.nth, fault.error);
     return faults;
   }
 
@@ -146,7 +156,7 @@ MachineFolder::MachineFolder(const std::string& directory, AskPerson ask) {
   const std::string folder = withoutSlash(directory);
   requireUsable(folder);
   try {
-    parts_ = std::make_unique<Parts>(folder, std::move(ask));
+    parts_ = std::make_unique<Parts>(realPath(folder), std::move(ask));
   } catch (const MalformedFile& error) {
     throw UnusableMachine(folder + "/" + error.what());
   } catch (const std::system_error& error) {

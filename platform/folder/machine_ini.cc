@@ -187,7 +187,7 @@ class Parser {
     const auto error = decimal(trimBlanks(value.substr(comma + 1)));
     if (!nth || !error || *error == kSuccess) refuse("a fault is nth,error, not", value);
     for (const FaultLine& fault : ini_.faults) {
-      if (sameText(fault.operation, key)) refuse("given twice:", key);
+      if (sameText(fault.operation, key) && fault.nth == *nth) refuse("given twice:", key);
     }
     ini_.faults.push_back({std::string(key), *nth, *error});
   }
@@ -210,21 +210,17 @@ class Parser {
     std::string& profile_variable = variable("USERPROFILE", "C:\\Users\\<UserName>");
     replaceReference(profile_variable, "UserName", user);
     const std::string profile = profile_variable;
-    variable("Temp", "<USERPROFILE>\\AppData\\Local\\Temp");
-    variable("PROGRAMDATA", "C:\\ProgramData");
-
-    const auto expanded = [&](std::string text) {
+    const auto expand = [&](std::string& text) {
       replaceReference(text, "USERPROFILE", profile);
       replaceReference(text, "UserName", user);
-      return text;
     };
-    for (auto& [key, value] : ini_.environment) {
-      if (!sameText(key, "UserName") && !sameText(key, "USERPROFILE")) value = expanded(value);
-    }
-    ini_.cookies = expanded(
-        cookies_.value_or("<USERPROFILE>\\AppData\\Local\\Microsoft\\Windows\\INetCookies"));
-    ini_.parent_window = expanded(window_.value_or(""));
-    ini_.program_path = expanded(path_.value_or("C:\\Program Files\\Tavr Wipe"));
+    expand(variable("Temp", "<USERPROFILE>\\AppData\\Local\\Temp"));
+    expand(variable("PROGRAMDATA", "C:\\ProgramData"));
+    ini_.cookies =
+        cookies_.value_or("<USERPROFILE>\\AppData\\Local\\Microsoft\\Windows\\INetCookies");
+    expand(ini_.cookies);
+    ini_.parent_window = window_.value_or("");
+    ini_.program_path = path_.value_or("C:\\Program Files\\Tavr Wipe");
     if (!isFullWindowsPath(ini_.program_path)) {
       number_ = path_line_;
       refuse("no full path such as C:\\Program Files\\Tavr Wipe:", ini_.program_path);

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "platform/folder/file_descriptor.h"
+#include "platform/folder/malformed_file.h"
 
 namespace tavr::folder {
 
@@ -17,7 +18,8 @@ constexpr Status kServerUnavailable = 1722;
 // In one write, so that a killed program leaves no half line.
 bool appendTo(int descriptor, std::string_view bytes) {
   struct stat status {};
-  if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) return false;
+  const bool known = ::fstat(descriptor, &status) == 0;
+  if (!known || !S_ISREG(status.st_mode) || status.st_nlink > 1) return false;
   return ::write(descriptor, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size());
 }
 
@@ -31,7 +33,15 @@ std::string onOneLine(std::string_view text) {
 }  // namespace
 
 MachineLog::MachineLog(const std::string& directory, std::string_view name)
-    : path_(directory + "/" + std::string(name)) {}
+    : path_(directory + "/" + std::string(name)) {
+  struct stat status {};
+  if (::lstat(path_.c_str(), &status) != 0) return;  // made when first written
+  const std::string_view what = S_ISLNK(status.st_mode)    ? "is a link"
+                                : !S_ISREG(status.st_mode) ? "is not a file"
+                                : status.st_nlink > 1      ? "has a second name"
+                                                           : "";
+  if (!what.empty()) throw MalformedFile(std::string(name) + ": " + std::string(what));
+}
 
 bool MachineLog::addLine(std::string_view text) const { return add(onOneLine(text) + "\n"); }
 

@@ -14,6 +14,8 @@ namespace tavr::folder {
 /// A text file beside machine.ini that only grows; made when first written.
 class MachineLog {
  public:
+  /// Raises MalformedFile where something else than a file with this one name is
+  /// there: what is written could lead out of the machine.
   MachineLog(const std::string& directory, std::string_view name);
   /// Adds the text and a line's end; breaks inside the text become blanks.
   /// False: it could not be written.

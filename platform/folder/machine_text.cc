@@ -33,6 +33,12 @@ bool writeAll(int descriptor, std::string_view text) {
   return true;
 }
 
+// The rename lasts through a loss of power only once the folder is on the disk.
+void flushFolder(const std::string& directory) {
+  const FileDescriptor folder(::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (folder.valid()) ::fsync(folder.get());
+}
+
 }  // namespace
 
 void refuseLine(std::string_view file, std::size_t line, std::string_view what) {
@@ -64,7 +70,7 @@ std::optional<std::string> readMachineFile(const std::string& directory, const s
 }
 
 bool replaceMachineFile(const std::string& directory, const std::string& name,
-                        std::string_view text) {
+                        std::string_view text, Flush flush) {
   const std::string path = directory + "/" + name;
   struct stat status {};
   const bool exists = ::lstat(path.c_str(), &status) == 0;
@@ -72,14 +78,14 @@ bool replaceMachineFile(const std::string& directory, const std::string& name,
   const FileDescriptor file(::mkostemp(beside.data(), O_CLOEXEC));
   if (!file.valid()) return false;
   const mode_t mode = exists ? status.st_mode & 07777 : 0644;
-  // No flush to the disk: these files change with every step of a run, and the
-  // rename alone keeps them whole when the program is killed.
-  if (writeAll(file.get(), text) && ::fchmod(file.get(), mode) == 0 &&
-      std::rename(beside.c_str(), path.c_str()) == 0) {
-    return true;
+  if (!writeAll(file.get(), text) || ::fchmod(file.get(), mode) != 0 ||
+      (flush == Flush::kToDisk && ::fsync(file.get()) != 0) ||
+      std::rename(beside.c_str(), path.c_str()) != 0) {
+    ::unlink(beside.c_str());
+    return false;
   }
-  ::unlink(beside.c_str());
-  return false;
+  if (flush == Flush::kToDisk) flushFolder(directory);
+  return true;
 }
 
 std::string_view trimBlanks(std::string_view text) {
@@ -134,7 +140,8 @@ bool LineFile::write() const {
   for (const Line& line : lines_) {
     if (!line.removed) kept.append(text_, line.begin, line.total);
   }
-  return replaceMachineFile(directory_, name_, kept);
+  // Not to the disk: such a file changes with every step of a run.
+  return replaceMachineFile(directory_, name_, kept, Flush::kNone);
 }
 
 }  // namespace tavr::folder

@@ -18,10 +18,14 @@ namespace tavr::folder {
 /// the machine.
 std::optional<std::string> readMachineFile(const std::string& directory, const std::string& name);
 
-/// Replaces directory/name by `text` in one step, keeping its mode. False: the
-/// old file stands.
+enum class Flush { kNone, kToDisk };
+
+/// Replaces directory/name by `text` in one step, keeping its mode: written beside
+/// under a name that nothing has, and renamed. Killed at any time, the old file or
+/// the new one is whole; with kToDisk that also holds for a loss of power. False:
+/// the old file stands.
 bool replaceMachineFile(const std::string& directory, const std::string& name,
-                        std::string_view text);
+                        std::string_view text, Flush flush);
 
 /// Without the blanks and tabs at both ends.
 std::string_view trimBlanks(std::string_view text);

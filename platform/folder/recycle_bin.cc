@@ -6,6 +6,8 @@
 
 #include "basic/text.h"
 #include "platform/folder/directory_entries.h"
+#include "platform/folder/dos_attributes.h"
+#include "platform/folder/file_descriptor.h"
 
 namespace tavr::folder {
 
@@ -82,28 +84,31 @@ Status RecycleBin::query(std::int64_t& size, std::int64_t& items) {
   return kSuccess;
 }
 
-// True when the entry is gone.
-bool RecycleBin::removeEntry(const FolderRef& folder, const std::string& path,
-                             const std::string& name) {
-  Node node;
-  if (!tree_.child(folder, name.c_str(), node)) return false;
+void RecycleBin::removeEntry(int folder, const std::string& path, const std::string& name) const {
+  struct statx facts {};
+  if (::statx(folder, name.c_str(), AT_SYMLINK_NOFOLLOW, kWantedFacts, &facts) != 0) return;
   const std::string own_path = below(path, name);
-  if (node.isLink() || !node.isFolder()) {
-    return !locked_.holds(own_path) && ::unlinkat(folder->fd(), name.c_str(), 0) == 0;
+  if (!S_ISDIR(facts.stx_mode)) {
+    if (!locked_.holds(own_path, facts)) ::unlinkat(folder, name.c_str(), 0);
+    return;
   }
-  FolderRef inner;
-  if (tree_.openFolder(node, inner) != kSuccess) return false;
+  const FileDescriptor inner(
+      ::openat(folder, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+  if (!inner.valid()) return;
   // On Linux a folder without the write bit keeps what is in it.
-  if ((node.facts.stx_mode & S_IWUSR) == 0) ::fchmod(inner->fd(), 0700);
-  for (const std::string& entry : namesIn(*inner)) removeEntry(inner, own_path, entry);
-  return ::unlinkat(folder->fd(), name.c_str(), AT_REMOVEDIR) == 0;
+  if ((facts.stx_mode & S_IWUSR) == 0) ::fchmod(inner.get(), 0700);
+  std::vector<std::string> names;
+  forEachEntry(inner.get(),
+               [&](std::string_view entry, unsigned char /*type*/) { names.emplace_back(entry); });
+  for (const std::string& entry : names) removeEntry(inner.get(), own_path, entry);
+  ::unlinkat(folder, name.c_str(), AT_REMOVEDIR);
 }
 
 Status RecycleBin::empty() {
   if (const Status fault = empty_fault_.hit()) return fault;
   for (const Bin& bin : bins()) {
     for (const std::string& name : namesIn(*bin.folder)) {
-      if (isItem(name) || isRecord(name)) removeEntry(bin.folder, bin.path, name);
+      if (isItem(name) || isRecord(name)) removeEntry(bin.folder->fd(), bin.path, name);
     }
   }
   tree_.forget();

@@ -24,7 +24,9 @@ class RecycleBin {
   Status query(std::int64_t& size, std::int64_t& items);
 
   /// SHEmptyRecycleBin over all drives: read-only items go too, locked files
-  /// stay, with the folders around them. A link is removed, never followed.
+  /// stay, with the folders around them. A folder goes with all that Linux keeps
+  /// in it, what is not on the machine included; a link is removed and never
+  /// followed, wherever it leads, and so is an item that is one.
   Status empty();
 
  private:
@@ -34,7 +36,8 @@ class RecycleBin {
   };
 
   std::vector<Bin> bins();
-  bool removeEntry(const FolderRef& folder, const std::string& path, const std::string& name);
+  /// `folder` is open, `path` its Windows path.
+  void removeEntry(int folder, const std::string& path, const std::string& name) const;
 
   FolderTree& tree_;
   LockedFiles locked_;

@@ -20,7 +20,7 @@ class RegistryFile {
 
   RegistryTree& tree() { return *tree_; }
 
-  /// Writes path + ".new", flushes it and renames it; nothing when the registry
+  /// Writes the file beside, flushes it and renames it; nothing when the registry
   /// is as loaded or last saved. Encoding and line ends stay as found, comments
   /// do not. False: it could not be written, and the old file stands.
   bool save(const std::string& path);

@@ -32,7 +32,10 @@ std::string_view rootName(Root root) {
 RegistryPath resolvePath(Root root, std::string_view path, std::uint32_t access) {
   RegistryPath resolved;
   resolved.root = rootName(root);
-  if (resolved.root.empty()) resolved.status = kFileNotFound;
+  if (resolved.root.empty()) {
+    resolved.status = kInvalidHandle;
+    return resolved;
+  }
   if ((access & k64BitView) != 0 && (access & k32BitView) != 0) resolved.status = kInvalidParameter;
 
   // Only HKEY_CLASSES_ROOT takes a path that begins with a separator.

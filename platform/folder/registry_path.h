@@ -14,7 +14,7 @@ inline constexpr std::uint32_t k64BitView = 0x100;
 inline constexpr std::uint32_t k32BitView = 0x200;
 
 struct RegistryPath {
-  Status status = kSuccess;             ///< 2: unknown root; 87: a name too long, both views
+  Status status = kSuccess;             ///< 6: no root; 161: begins with "\"; 87
   std::string_view root;                ///< its long name
   std::vector<std::string_view> names;  ///< of the keys below it, none of them empty
 };

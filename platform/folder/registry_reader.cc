@@ -19,13 +19,6 @@ namespace {
 
 constexpr std::string_view kHeader = "Windows Registry Editor Version 5.00";
 
-int hexDigit(char c) {
-  if (c >= '0' && c <= '9') return c - '0';
-  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-  return -1;
-}
-
 class Reader {
  public:
   Reader(std::string_view file, std::string_view text, RegistryTree& tree)
@@ -88,7 +81,6 @@ class Reader {
   void openKey(std::string_view path);
   void value();
   std::string quoted();
-  std::string dword();
   std::string hexBytes();
   std::uint32_t hexNumber();
   void continueLine();
@@ -164,7 +156,8 @@ void Reader::value() {
     data.append(2, '\0');
   } else if (take("dword:")) {
     type = kRegDword;
-    data = dword();
+    const std::uint32_t number = hexNumber();
+    for (int shift = 0; shift < 32; shift += 8) data += static_cast<char>(number >> shift & 0xFF);
   } else if (take("hex")) {
     type = kRegBinary;
     if (take("(")) {
@@ -211,13 +204,6 @@ std::uint32_t Reader::hexNumber() {
   return number;
 }
 
-std::string Reader::dword() {
-  const std::uint32_t number = hexNumber();
-  std::string data;
-  for (int shift = 0; shift < 32; shift += 8) data += static_cast<char>(number >> shift & 0xFF);
-  return data;
-}
-
 void Reader::continueLine() {
   ++pos_;
   skipBlanks();
@@ -236,10 +222,13 @@ std::string Reader::hexBytes() {
       more = true;
     }
     if (!more && (atLineEnd() || peek() == ';')) return data;
-    const int high = hexDigit(peek());
-    const int low = high < 0 || pos_ + 1 == text_.size() ? -1 : hexDigit(text_[pos_ + 1]);
-    if (low < 0) refuse("no hexadecimal byte of two digits");
-    data += static_cast<char>(high << 4 | low);
+    const std::string_view digits = text_.substr(pos_, 2);
+    const char* end = digits.data() + digits.size();
+    std::uint8_t byte = 0;
+    if (digits.size() < 2 || std::from_chars(digits.data(), end, byte, 16).ptr != end) {
+      refuse("no hexadecimal byte of two digits");
+    }
+    data += static_cast<char>(byte);
     pos_ += 2;
     skipBlanks();
     if (!take(",")) return data;

@@ -16,10 +16,13 @@ TEST_F(RegistryContract, OpeningAMissingKeyIsNotFoundAndGivesNoKey) {
   EXPECT_EQ(opened.key, nullptr);
 }
 
-TEST_F(RegistryContract, OpeningBelowAnUnknownRootIsNotFound) {
-  const OpenedKey opened = machine().registry.open(static_cast<Root>(0), "Software", kRead);
-  EXPECT_EQ(opened.status, kFileNotFound);
+TEST_F(RegistryContract, ANumberThatIsNoRootIsAnInvalidHandle) {
+  const auto none = static_cast<Root>(0);
+  const OpenedKey opened = machine().registry.open(none, "Software", kRead);
+  EXPECT_EQ(opened.status, kInvalidHandle);
   EXPECT_EQ(opened.key, nullptr);
+  EXPECT_EQ(machine().registry.create(none, "Software", "", kAll).status, kInvalidHandle);
+  EXPECT_EQ(machine().registry.deleteKey(none, "Software"), kInvalidHandle);
 }
 
 TEST_F(RegistryContract, CreatingMakesEveryKeyOnTheWay) {

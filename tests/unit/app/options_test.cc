@@ -54,7 +54,7 @@ TEST(Options, AWrongCallSaysWhatIsWrongInOneLine) {
       {{}, "--machine DIR is missing"},
       {{"t"}, "--machine DIR is missing"},
       {{"--machine"}, "--machine needs a folder"},
-      {{"--machine", ""}, "--machine DIR is missing"},
+      {{"--machine", ""}, "--machine needs a folder"},
       {{"--machine", "/m", "--verbose", "t"}, "unknown option --verbose"},
       {{"--machine=/m", "t"}, "unknown option --machine=/m"},
       {{"--machine", "/m", "t", "--rows"}, "option --rows stands behind the arguments"},

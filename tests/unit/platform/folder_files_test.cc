@@ -308,7 +308,7 @@ TEST_F(FolderFilesTest, FaultsAnswerInPlaceOfEachOperation) {
   file("C/f/a", "12");
   for (const char* operation : {"FindFirstFile", "GetFileAttributes", "SetFileAttributes",
                                 "DeleteFile", "CreateFile", "CopyFile", "SetCurrentDirectory"}) {
-    faults_.set(operation, 1, 1117);
+    faults_.add(operation, 1, 1117);
   }
   FoundFile found;
   EXPECT_EQ(files_.findFirst("C:\\f\\a", found), 1117u);
@@ -323,7 +323,7 @@ TEST_F(FolderFilesTest, FaultsAnswerInPlaceOfEachOperation) {
   EXPECT_EQ(files_.copy("C:\\f\\a", "C:\\f\\b"), 1117u);
   EXPECT_FALSE(exists("C/f/b"));
   EXPECT_EQ(files_.setCurrentDirectory("C:\\f"), 1117u);
-  faults_.set("FindFirstFile", 0, 5);
+  faults_.add("FindFirstFile", 0, 5);
   EXPECT_EQ(find("C:\\f\\*"), 5u);
   EXPECT_THAT(listed("C:\\f\\", "*"), IsEmpty());
   EXPECT_THAT(list("C:\\", "*").subfolders, IsEmpty());
@@ -333,8 +333,8 @@ TEST_F(FolderFilesTest, FaultsOfReadingAndWritingTouchNothing) {
   file("C/f/a", "12");
   OpenedFile opened = files_.open("C:\\f\\a", OpenMode::kBinary);
   ASSERT_EQ(opened.status, kSuccess);
-  faults_.set("ReadFile", 2, 23);
-  faults_.set("WriteFile", 1, kDiskFull);
+  faults_.add("ReadFile", 2, 23);
+  faults_.add("WriteFile", 1, kDiskFull);
   std::string out;
   EXPECT_EQ(opened.file->read(0, 2, out), kSuccess);
   EXPECT_EQ(opened.file->read(0, 2, out), 23u);

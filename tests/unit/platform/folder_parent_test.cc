@@ -99,9 +99,9 @@ TEST_F(FolderParentTest, AViewLargerThanItsMappingIsRefused) {
 }
 
 TEST_F(FolderParentTest, FaultsFailTheirOperation) {
-  faults.set("CreateFileMapping", 1, kAccessDenied);
-  faults.set("MapViewOfFile", 1, kAccessDenied);
-  faults.set("FindWindow", 1, kAccessDenied);
+  faults.add("CreateFileMapping", 1, kAccessDenied);
+  faults.add("MapViewOfFile", 1, kAccessDenied);
+  faults.add("FindWindow", 1, kAccessDenied);
   EXPECT_EQ(parent.createMapping("M", 16), nullptr);
   const auto mapping = parent.createMapping("M", 16);
   ASSERT_NE(mapping, nullptr);
@@ -126,18 +126,22 @@ TEST(FolderEventLog, AnEventIsALineAndItsTextBehindTabs) {
 TEST(FolderEventLog, AnotherServerIsNotThereAndAFaultWritesNothing) {
   const testing::ScratchFolder folder;
   Faults faults;
-  faults.set("ReportEvent", 1, 1502);
+  faults.add("ReportEvent", 1, 1502);
   FolderEventLog log(folder.path(), faults);
   EXPECT_EQ(log.report("", "Spoorwipe", 1, 5000, "x"), 1502U);
   EXPECT_EQ(log.report("\\\\OTHER", "Spoorwipe", 1, 5000, "x"), 1722U);
   EXPECT_FALSE(folder.has("events.log"));
 }
 
-TEST(MachineLog, ALinkIsNotFollowed) {
+TEST(MachineLog, ALinkThatAppearsLaterIsNotFollowed) {
   const testing::ScratchFolder folder;
   folder.write("elsewhere", "kept\n");
+  const MachineLog log(folder.path(), "shell.log");
   std::filesystem::create_symlink(folder.at("elsewhere"), folder.at("shell.log"));
-  EXPECT_FALSE(MachineLog(folder.path(), "shell.log").addLine("x"));
+  EXPECT_FALSE(log.addLine("x"));
+  std::filesystem::remove(folder.at("shell.log"));
+  std::filesystem::create_hard_link(folder.at("elsewhere"), folder.at("shell.log"));
+  EXPECT_FALSE(log.addLine("x"));
   EXPECT_EQ(folder.read("elsewhere"), "kept\n");
 }
 

@@ -140,9 +140,9 @@ TEST_F(FolderProcessesTest, ALinkInPlaceOfTheFileIsRefused) {
 }
 
 TEST_F(FolderProcessesTest, FaultsFailTheirOperation) {
-  faults.set("Process32First", 1, kAccessDenied);
-  faults.set("OpenProcess", 2, kAccessDenied);
-  faults.set("TerminateProcess", 1, kAccessDenied);
+  faults.add("Process32First", 1, kAccessDenied);
+  faults.add("OpenProcess", 2, kAccessDenied);
+  faults.add("TerminateProcess", 1, kAccessDenied);
   FolderProcesses processes = with("40 chrome.exe\n");
   std::vector<ProcessEntry> entries = {{1, "x"}};
   EXPECT_EQ(processes.snapshot(entries), kAccessDenied);
@@ -199,7 +199,7 @@ TEST_F(FolderProcessesTest, TheRegistryProviderAnswersToItsMonikerAlone) {
 }
 
 TEST_F(FolderProcessesTest, AFaultTakesAwayEitherBindingOrTheQuery) {
-  faults.set("GetObject", 0, kAccessDenied);
+  faults.add("GetObject", 0, kAccessDenied);
   FolderProcesses processes = with("40 a.exe\n");
   std::vector<std::uint32_t> found;
   {
@@ -209,7 +209,7 @@ TEST_F(FolderProcessesTest, AFaultTakesAwayEitherBindingOrTheQuery) {
     EXPECT_FALSE(wmi.queryProcessIds(queryFor("a.exe"), found));
   }
   Faults query_fault;
-  query_fault.set("ExecQuery", 1, kAccessDenied);
+  query_fault.add("ExecQuery", 1, kAccessDenied);
   FolderWmi wmi(processes, nullptr, query_fault);
   EXPECT_FALSE(wmi.queryProcessIds(queryFor("a.exe"), found));
   EXPECT_TRUE(wmi.queryProcessIds(queryFor("a.exe"), found));

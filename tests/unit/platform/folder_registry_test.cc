@@ -102,13 +102,33 @@ TEST_F(FolderRegistryTest, PathsAreFoundWithoutCaseAndWithRepeatedOrTrailingBack
   }
   EXPECT_EQ(statusOf(Root::kCurrentUser, "Software\\Ke", kAll), kFileNotFound);
   EXPECT_EQ(statusOf(Root::kCurrentUser, "Software\\Key\\beta\\x", kAll), kFileNotFound);
-  EXPECT_EQ(statusOf(static_cast<Root>(1), "Software", kAll), kFileNotFound);
+  EXPECT_EQ(statusOf(static_cast<Root>(1), "Software", kAll), kInvalidHandle);
+}
+
+TEST_F(FolderRegistryTest, ALeadingBackslashIsABadPathUnderAllRootsButTheClasses) {
+  for (const Root root : {Root::kCurrentUser, Root::kLocalMachine, Root::kUsers}) {
+    EXPECT_EQ(statusOf(root, "\\Software", kAll), kBadPathname);
+    EXPECT_EQ(statusOf(root, "\\", kAll), kBadPathname);
+    EXPECT_EQ(registry_.create(root, "\\new", "", kAll).status, kBadPathname);
+    EXPECT_EQ(registry_.deleteKey(root, "\\Software"), kBadPathname);
+  }
+  EXPECT_FALSE(tree_.changed());
+  EXPECT_EQ(registry_.create(Root::kClassesRoot, "\\.txt", "", kAll).status, kSuccess);
+  EXPECT_EQ(statusOf(Root::kClassesRoot, "\\.TXT", kAll), kSuccess);
+  EXPECT_EQ(registry_.deleteKey(Root::kClassesRoot, "\\.txt"), kSuccess);
+  EXPECT_EQ(statusOf(static_cast<Root>(1), "\\Software", kAll), kInvalidHandle);
+}
+
+TEST_F(FolderRegistryTest, AKeyBelowARootIsDeletedThroughTheRootsHandle) {
+  ASSERT_EQ(registry_.create(Root::kUsers, "direct", "", kAll).status, kSuccess);
+  EXPECT_EQ(open(Root::kUsers, "", kAll)->deleteKey("direct"), kSuccess);
+  EXPECT_EQ(statusOf(Root::kUsers, "direct", kAll), kFileNotFound);
 }
 
 TEST_F(FolderRegistryTest, EveryRootOpensWithAnEmptyPath) {
   EXPECT_THAT(subkeys(*open(Root::kLocalMachine, "", kAll64)), ElementsAre("SOFTWARE", "SYSTEM"));
-  EXPECT_THAT(subkeys(*open(Root::kClassesRoot, "", kAll64)), IsEmpty());
-  EXPECT_THAT(subkeys(*open(Root::kUsers, "\\", kAll)), IsEmpty());
+  EXPECT_THAT(subkeys(*open(Root::kClassesRoot, "\\", kAll64)), IsEmpty());
+  EXPECT_THAT(subkeys(*open(Root::kUsers, "", kAll)), IsEmpty());
 }
 
 TEST_F(FolderRegistryTest, SubkeysEnumerateInTheOrderOfTheirUpperCasedNames) {
@@ -217,7 +237,7 @@ TEST_F(FolderRegistryTest, OnlyKeysWithoutSubkeysAreDeleted) {
   EXPECT_EQ(registry_.deleteKey(Root::kCurrentUser, "Software\\Key\\beta"), kFileNotFound);
   EXPECT_EQ(registry_.deleteKey(Root::kCurrentUser, "Software"), kAccessDenied);
   EXPECT_EQ(registry_.deleteKey(Root::kUsers, ""), kAccessDenied);
-  EXPECT_EQ(registry_.deleteKey(static_cast<Root>(0), "Software"), kFileNotFound);
+  EXPECT_EQ(registry_.deleteKey(static_cast<Root>(0), "Software"), kInvalidHandle);
 }
 
 TEST_F(FolderRegistryTest, AnEmptySubkeyNameAddressesTheKeyItself) {
@@ -286,7 +306,7 @@ TEST_F(FolderRegistryTest, CreatingMakesEveryMissingKeyInTheViewOfTheMask) {
   EXPECT_EQ(text(*open(Root::kLocalMachine, "SOFTWARE\\WOW6432Node\\a\\B", kAll64), "n"),
             withNuls("v\0", 2));
   EXPECT_EQ(statusOf(Root::kLocalMachine, "SOFTWARE\\A", kAll64), kFileNotFound);
-  EXPECT_EQ(registry_.create(static_cast<Root>(1), "x", "", kAll).status, kFileNotFound);
+  EXPECT_EQ(registry_.create(static_cast<Root>(1), "x", "", kAll).status, kInvalidHandle);
 }
 
 TEST_F(FolderRegistryTest, CreatingAnExistingKeyOpensItAndChangesNothing) {
@@ -337,7 +357,7 @@ TEST_F(FolderRegistryTest, AFaultIsAnsweredInsteadOfTheOperation) {
   for (const char* operation :
        {"RegOpenKeyEx", "RegCreateKeyEx", "RegEnumKey", "RegEnumValue", "RegQueryValueEx",
         "RegSetValueEx", "RegDeleteKey", "RegDeleteValue"}) {
-    faults_.set(operation, 2, kAccessDenied);
+    faults_.add(operation, 2, kAccessDenied);
   }
   const auto twice = [](auto operation) {
     const Status first = operation();

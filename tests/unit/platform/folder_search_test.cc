@@ -49,6 +49,45 @@ TEST_F(FolderSearchTest, FindTellsAnEmptySearchFromAMissingFolder) {
   EXPECT_EQ(find("C:\\f\\a|b"), kInvalidName);
 }
 
+TEST_F(FolderSearchTest, AFileUsedAsAFolderIsTold) {
+  file("C/x/f");
+  link("C/x/l", "f");
+  FoundFile found;
+  for (const char* path : {"C:\\x\\f\\*.*", "C:\\X\\F\\a", "C:\\x\\l\\*.*"}) {
+    EXPECT_EQ(find(path), kDirectory) << path;
+    EXPECT_EQ(files_.findFirst(path, found), kDirectory) << path;
+  }
+  EXPECT_EQ(find("C:\\x\\f\\sub\\*.*"), kPathNotFound);
+  EXPECT_EQ(find("C:\\x\\none\\*.*"), kPathNotFound);
+  EXPECT_EQ(find("C:\\none\\*.*"), kPathNotFound);
+  EXPECT_EQ(find("Q:\\*.*"), kPathNotFound);
+  EXPECT_EQ(attributesStatus("C:\\x\\f\\a"), kPathNotFound) << "no search";
+  EXPECT_THAT(listed("C:\\x\\f\\", "*.*"), IsEmpty());
+}
+
+TEST_F(FolderSearchTest, AListingIsTwoSearchesAndEitherMayFailAlone) {
+  file("C/f/a.txt");
+  file("C/f/sub/b.txt");
+  for (const std::string mask : {"*.*", "sub\\*.txt", ""}) {
+    SCOPED_TRACE(mask);
+    Faults faults;
+    faults.add("FindFirstFile", 3, 5);
+    faults.add("FindFirstFile", 6, 5);
+    FolderFiles files(tree_, {}, faults);
+    const std::size_t all = mask.empty() ? 0 : 1;
+    const auto expectListing = [&](std::size_t subfolders, std::size_t found) {
+      FolderListing listing;
+      files.listFolder("C:\\f\\", mask, listing);
+      EXPECT_EQ(listing.subfolders.size(), subfolders);
+      EXPECT_EQ(listing.files.size(), found);
+    };
+    expectListing(1, all);
+    expectListing(0, all);
+    expectListing(1, 0);
+    expectListing(1, all);
+  }
+}
+
 TEST_F(FolderSearchTest, APatternEndingInADotAsksForNamesWithoutExtension) {
   file("C/f/README");
   file("C/f/a.txt");

@@ -111,10 +111,10 @@ TEST_F(FolderShellTest, HelpNeedsItsFile) {
 }
 
 TEST_F(FolderShellTest, FaultsFailTheirOperation) {
-  faults.set("SHGetSpecialFolderLocation", 1, kAccessDenied);
-  faults.set("ShellExecute", 1, kAccessDenied);
-  faults.set("CreateProcess", 1, kAccessDenied);
-  faults.set("HtmlHelp", 1, kAccessDenied);
+  faults.add("SHGetSpecialFolderLocation", 1, kAccessDenied);
+  faults.add("ShellExecute", 1, kAccessDenied);
+  faults.add("CreateProcess", 1, kAccessDenied);
+  faults.add("HtmlHelp", 1, kAccessDenied);
   std::string buffer;
   EXPECT_EQ(shell.specialFolder(33, buffer), kAccessDenied);
   EXPECT_EQ(buffer, "");

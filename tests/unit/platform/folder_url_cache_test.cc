@@ -149,9 +149,9 @@ TEST_F(FolderUrlCacheTest, AMalformedLineIsRefusedWithItsNumber) {
 }
 
 TEST_F(FolderUrlCacheTest, FaultsFailTheirOperation) {
-  faults.set("FindFirstUrlCacheEntry", 1, kAccessDenied);
-  faults.set("FindNextUrlCacheEntry", 2, kAccessDenied);
-  faults.set("DeleteUrlCacheEntry", 1, kAccessDenied);
+  faults.add("FindFirstUrlCacheEntry", 1, kAccessDenied);
+  faults.add("FindNextUrlCacheEntry", 2, kAccessDenied);
+  faults.add("DeleteUrlCacheEntry", 1, kAccessDenied);
   const auto cache = with("1\ta\t\n1\tb\t\n1\tc\t\n");
   EXPECT_EQ(list(*cache), "");
   EXPECT_EQ(list(*cache), "1,a,(none);1,b,(none);");

@@ -181,6 +181,62 @@ TEST_F(MachineFolderTest, ALinkOrAFolderInPlaceOfAFileIsRefused) {
   }
 }
 
+TEST_F(MachineFolderTest, ALogThatIsNoFileOfItsOwnIsRefused) {
+  folder.write("elsewhere", "kept\n");
+  for (const std::string name : {"events.log", "shell.log", "parent.log"}) {
+    SCOPED_TRACE(name);
+    std::filesystem::create_symlink(folder.at("elsewhere"), folder.at(name));
+    EXPECT_EQ(refusal(), "/" + name + ": is a link");
+    std::filesystem::remove(folder.at(name));
+    std::filesystem::create_symlink(folder.at("missing"), folder.at(name));
+    EXPECT_EQ(refusal(), "/" + name + ": is a link");
+    std::filesystem::remove(folder.at(name));
+    std::filesystem::create_directory(folder.at(name));
+    EXPECT_EQ(refusal(), "/" + name + ": is not a file");
+    std::filesystem::remove(folder.at(name));
+    ASSERT_EQ(::mkfifo(folder.at(name).c_str(), 0600), 0);
+    EXPECT_EQ(refusal(), "/" + name + ": is not a file");
+    std::filesystem::remove(folder.at(name));
+    std::filesystem::create_hard_link(folder.at("elsewhere"), folder.at(name));
+    EXPECT_EQ(refusal(), "/" + name + ": has a second name");
+    std::filesystem::remove(folder.at(name));
+    folder.write(name, "an earlier run\n");
+  }
+  EXPECT_EQ(refusal(), "");
+  EXPECT_EQ(folder.read("elsewhere"), "kept\n");
+}
+
+TEST_F(MachineFolderTest, EveryFileIsThatOfTheFolderFoundFirst) {
+  folder.write("one/processes.txt", "7 a.exe\n");
+  folder.write("two/processes.txt", "7 a.exe\n");
+  std::filesystem::create_directory_symlink("one", folder.at("way"));
+  MachineFolder owner(folder.at("way"));
+  std::filesystem::remove(folder.at("way"));
+  std::filesystem::create_directory_symlink("two", folder.at("way"));
+  setText(owner.machine(), "Software\\a", "1");
+  EXPECT_EQ(owner.machine().shell.execute("open", "http://a", 1), kSuccess);
+  std::unique_ptr<Process> process;
+  ASSERT_EQ(owner.machine().processes.open(7, 1, process), kSuccess);
+  EXPECT_EQ(process->terminate(0), kSuccess);
+  EXPECT_TRUE(owner.save());
+  EXPECT_EQ(folder.read("one/processes.txt"), "");
+  EXPECT_TRUE(folder.has("one/registry.reg"));
+  EXPECT_TRUE(folder.has("one/shell.log"));
+  EXPECT_EQ(folder.read("two/processes.txt"), "7 a.exe\n");
+  EXPECT_FALSE(folder.has("two/registry.reg"));
+  EXPECT_FALSE(folder.has("two/shell.log"));
+}
+
+TEST_F(MachineFolderTest, AnOperationFailsAtEveryCallThatALineNames) {
+  folder.write("machine.ini", "[fault]\nDeleteFile=1,5\nDeleteFile=3,32\n");
+  for (const char* name : {"C/a", "C/b"}) folder.write(name, "");
+  MachineFolder owner(folder.path());
+  EXPECT_EQ(owner.machine().files.remove("C:\\a"), kAccessDenied);
+  EXPECT_EQ(owner.machine().files.remove("C:\\a"), kSuccess);
+  EXPECT_EQ(owner.machine().files.remove("C:\\b"), kSharingViolation);
+  EXPECT_EQ(owner.machine().files.remove("C:\\b"), kSuccess);
+}
+
 TEST_F(MachineFolderTest, TheRegistryIsWrittenBySaveAndByTheNextWait) {
   folder.write("machine.ini", "[clock]\nstart=2026-11-20T10:00:00\n");
   MachineFolder owner(folder.path());

@@ -50,16 +50,24 @@ TEST(MachineIni, TheUserNameReachesEveryDefaultThatNamesIt) {
   EXPECT_EQ(ini.cookies, "C:\\Users\\Zoë\\AppData\\Local\\Microsoft\\Windows\\INetCookies");
 }
 
-TEST(MachineIni, ReferencesAreReplacedWhereverTheyStandAndInAnyOrder) {
+TEST(MachineIni, ReferencesAreReplacedInTheProfilesFoldersInAnyOrder) {
   const MachineIni ini = parseMachineIni(
       "[folders]\ncookies=<userprofile>\\Cookies\\<UserName>\n"
-      "[program]\npath=<USERPROFILE>\\Tavr\\\n"
       "[environment]\nTemp=D:\\<UserName>\\T\nUSERPROFILE=D:\\Home\\<UserName>\nUserName=ann\n"
-      "Odd=<other><UserName\n");
+      "PROGRAMDATA=D:\\<other><UserName>\\<UserName\n");
   EXPECT_EQ(ini.cookies, "D:\\Home\\ann\\Cookies\\ann");
-  EXPECT_EQ(ini.program_path, "D:\\Home\\ann\\Tavr");
   EXPECT_EQ(variable(ini, "Temp"), "D:\\ann\\T");
-  EXPECT_EQ(variable(ini, "Odd"), "<other><UserName");
+  EXPECT_EQ(variable(ini, "PROGRAMDATA"), "D:\\<other>ann\\<UserName");
+}
+
+TEST(MachineIni, EverythingElseIsTakenAsItStands) {
+  const MachineIni ini = parseMachineIni(
+      "[environment]\nAPPDATA=<USERPROFILE>\\Roaming\nTempDir=<UserName>\n"
+      "[program]\npath=C:\\<UserName>\n[parent]\nwindow=Window of <UserName>\n");
+  EXPECT_EQ(variable(ini, "APPDATA"), "<USERPROFILE>\\Roaming");
+  EXPECT_EQ(variable(ini, "TempDir"), "<UserName>");
+  EXPECT_EQ(ini.program_path, "C:\\<UserName>");
+  EXPECT_EQ(ini.parent_window, "Window of <UserName>");
 }
 
 TEST(MachineIni, AReferenceToItselfStaysAsItStands) {
@@ -147,6 +155,15 @@ TEST(MachineIni, FaultsHaveACallAndAnError) {
   EXPECT_EQ(ini.faults[1].error, 5U);
 }
 
+TEST(MachineIni, AnOperationMayFailAtSeveralCalls) {
+  const MachineIni ini =
+      parseMachineIni("[fault]\nDeleteFile=2,5\nCopyFile=2,5\nDELETEFILE=4,32\ndeletefile=0,3\n");
+  ASSERT_EQ(ini.faults.size(), 4U);
+  EXPECT_EQ(ini.faults[2].nth, 4U);
+  EXPECT_EQ(ini.faults[2].error, 32U);
+  EXPECT_EQ(ini.faults[3].nth, 0U);
+}
+
 TEST(MachineIni, AFaultOfAnyOtherFormIsRefused) {
   for (const std::string value :
        {"", "3", "3,", ",5", "3;5", "x,5", "1,-5", "1,0x5", "1,5,6", "1,0", "4294967296,5"}) {
@@ -155,7 +172,7 @@ TEST(MachineIni, AFaultOfAnyOtherFormIsRefused) {
   }
   EXPECT_EQ(refusal("[fault]\nDeleteFileA=1,5"),
             "machine.ini:2: unknown operation \"DeleteFileA\"");
-  EXPECT_EQ(refusal("[fault]\nDeleteFile=1,5\ndeletefile=2,5"),
+  EXPECT_EQ(refusal("[fault]\nDeleteFile=1,5\ndeletefile=1,32"),
             "machine.ini:3: given twice: \"deletefile\"");
 }
 

@@ -93,6 +93,53 @@ TEST_F(RecycleBinTest, LinksAreRemovedAndNeverFollowed) {
   EXPECT_FALSE(exists("C/$Recycle.Bin/S-1/$Rfolder"));
 }
 
+TEST_F(RecycleBinTest, LockedFilesStayByTheirOtherNamesToo) {
+  file("C/$Recycle.Bin/S-1/$RHeld.txt", "123");
+  link("C/$Recycle.Bin/S-1/$Rlink", "$RHeld.txt");
+  folder("C/$Recycle.Bin/S-1/$Rfolder");
+  std::filesystem::create_hard_link(host("C/$Recycle.Bin/S-1/$RHeld.txt"),
+                                    host("C/$Recycle.Bin/S-1/$Rfolder/twin"));
+  link("D/$Recycle.Bin", "../C/$Recycle.Bin");
+  file("C/$Recycle.Bin/S-1/$Rfolder/free");
+  RecycleBin bin(tree_, {"C:\\$Recycle.Bin\\S-1\\$RHeld.txt"}, faults_);
+  EXPECT_EQ(bin.empty(), kSuccess);
+  EXPECT_TRUE(exists("C/$Recycle.Bin/S-1/$RHeld.txt"));
+  EXPECT_TRUE(exists("C/$Recycle.Bin/S-1/$Rfolder/twin"));
+  EXPECT_FALSE(exists("C/$Recycle.Bin/S-1/$Rfolder/free"));
+  EXPECT_FALSE(exists("C/$Recycle.Bin/S-1/$Rlink")) << "the link itself is nobody's";
+}
+
+TEST_F(RecycleBinTest, AFolderGoesWithAllThatLinuxKeepsInIt) {
+  const auto before = outsideState();
+  const std::string item = "C/$Recycle.Bin/S-1/$Rfolder";
+  for (const char* name : {"a:b", "dot.", "blank ", "q?", "s*", "back\\slash", "tab\tx", "\xFF"}) {
+    file(item + "/deep/" + name);
+  }
+  file(item + "/odd./inner");
+  ASSERT_EQ(::mkfifo(host(item + "/pipe").c_str(), 0600), 0);
+  link(item + "/out", outside());
+  link(item + "/deep/outfile", outside() / "secret.txt");
+  link(item + "/dangling", "none");
+  EXPECT_EQ(bin_.empty(), kSuccess);
+  EXPECT_FALSE(exists(item));
+  EXPECT_EQ(outsideState(), before);
+}
+
+TEST_F(RecycleBinTest, AnItemThatIsALinkGoesWhereverItLeads) {
+  const auto before = outsideState();
+  link("C/$Recycle.Bin/S-1/$Rout", outside());
+  link("C/$Recycle.Bin/S-1/$Rfile", outside() / "secret.txt");
+  link("C/$Recycle.Bin/S-1/$Iout", "/nowhere");
+  link("C/$Recycle.Bin/S-1/other", outside());
+  expectBin(0, 0);
+  EXPECT_EQ(bin_.empty(), kSuccess);
+  EXPECT_FALSE(exists("C/$Recycle.Bin/S-1/$Rout"));
+  EXPECT_FALSE(exists("C/$Recycle.Bin/S-1/$Rfile"));
+  EXPECT_FALSE(exists("C/$Recycle.Bin/S-1/$Iout"));
+  EXPECT_TRUE(exists("C/$Recycle.Bin/S-1/other"));
+  EXPECT_EQ(outsideState(), before);
+}
+
 TEST_F(RecycleBinTest, NothingOutsideIsCountedOrRemoved) {
   std::ofstream(outside() / "$Rsecret") << "secret";
   std::filesystem::create_directories(outside() / "S-1");
@@ -120,8 +167,8 @@ TEST_F(RecycleBinTest, FilesRemovedWithTheirFolderAreGoneForTheFilesToo) {
 
 TEST_F(RecycleBinTest, FaultsAnswerInPlaceOfBothOperations) {
   file("C/$Recycle.Bin/S-1/$Ra", "12345");
-  faults_.set("SHQueryRecycleBin", 1, 5);
-  faults_.set("SHEmptyRecycleBin", 0, 5);
+  faults_.add("SHQueryRecycleBin", 1, 5);
+  faults_.add("SHEmptyRecycleBin", 0, 5);
   std::int64_t size = -1;
   std::int64_t items = -1;
   EXPECT_EQ(bin_.query(size, items), 5u);

@@ -5,6 +5,7 @@
 #include <sys/resource.h>
 
 #include <filesystem>
+#include <iterator>
 #include <string>
 
 #include "platform/folder/malformed_file.h"
@@ -55,6 +56,11 @@ class RegistryFileTest : public ::testing::Test {
       return refused.what();
     }
     return "";
+  }
+
+  // How many files and folders there are beside the registry, itself included.
+  std::ptrdiff_t entries() const {
+    return std::distance(fs::directory_iterator(scratch_.path()), fs::directory_iterator());
   }
 
   testing::ScratchFolder scratch_;
@@ -316,16 +322,26 @@ TEST_F(RegistryFileTest, ALinkOrAFolderIsNoRegistry) {
   EXPECT_THROW(RegistryFile::load(path_), MalformedFile);
 }
 
-TEST_F(RegistryFileTest, SavingKeepsTheModeAndTakesOverALeftOverFile) {
+TEST_F(RegistryFileTest, SavingKeepsTheMode) {
   write(kExport);
   fs::permissions(path_, fs::perms::owner_read | fs::perms::owner_write);
-  scratch_.write("registry.reg.new", "left by a killed program");
   RegistryFile file = RegistryFile::load(path_);
   touch(file);
   EXPECT_TRUE(file.save(path_));
   EXPECT_EQ(bytes(), kExport);
   EXPECT_EQ(fs::status(path_).permissions(), fs::perms::owner_read | fs::perms::owner_write);
-  EXPECT_FALSE(fs::exists(path_ + ".new"));
+  EXPECT_EQ(entries(), 1);
+}
+
+TEST_F(RegistryFileTest, SavingNeedsNoCertainNameBesideTheFile) {
+  write(kExport);
+  fs::create_directories(path_ + ".new/in the way");
+  RegistryFile file = RegistryFile::load(path_);
+  touch(file);
+  EXPECT_TRUE(file.save(path_));
+  EXPECT_EQ(bytes(), kExport);
+  EXPECT_TRUE(fs::exists(path_ + ".new/in the way"));
+  EXPECT_EQ(entries(), 2);
 }
 
 TEST_F(RegistryFileTest, AWriteThatFailsHalfWayLeavesTheOldFile) {
@@ -344,7 +360,7 @@ TEST_F(RegistryFileTest, AWriteThatFailsHalfWayLeavesTheOldFile) {
 
   EXPECT_FALSE(saved);
   EXPECT_EQ(bytes(), kExport);
-  EXPECT_FALSE(fs::exists(path_ + ".new"));
+  EXPECT_EQ(entries(), 1);
   EXPECT_TRUE(file.save(path_));  // the change is still there to be saved
   EXPECT_EQ(bytes(), kExport);
 }
@@ -354,7 +370,7 @@ TEST_F(RegistryFileTest, ARenameThatFailsLeavesNothingBehind) {
   touch(file);
   fs::create_directories(path_ + "/in the way");
   EXPECT_FALSE(file.save(path_));
-  EXPECT_FALSE(fs::exists(path_ + ".new"));
+  EXPECT_EQ(entries(), 1);
   EXPECT_FALSE(file.save(scratch_.at("missing/registry.reg")));
 }
 

@@ -135,7 +135,7 @@ TEST_F(StdRegProvTest, SettingNeedsTheKeyAndCreatingMakesItWithEveryKeyAbove) {
 TEST_F(StdRegProvTest, AFaultIsAnsweredInsteadOfTheMethod) {
   for (const char* method :
        {"GetExpandedStringValue", "GetMultiStringValue", "SetMultiStringValue", "CreateKey"}) {
-    faults_.set(method, 0, kAccessDenied);
+    faults_.add(method, 0, kAccessDenied);
   }
   std::string text = "stale";
   std::vector<std::string> list{"stale"};

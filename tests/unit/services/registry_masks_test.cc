@@ -158,15 +158,17 @@ TEST_F(RegistryMasksTest, ThePendingListIsReadAfterTheGrant) {
             Calls({"open 0x6013F SYSTEM\\CurrentControlSet\\Control\\Session Manager"}));
 }
 
-TEST_F(RegistryMasksTest, AFileAsRootTouchesNoKey) {
+TEST_F(RegistryMasksTest, AFileAsRootTouchesNoKeyButInTheRoutinesThatKnowNoFiles) {
   made.file("C:\\d\\a.ini", "[s]\r\na=1\r\n");
   RegistryLayer registry = layer();
   ReadValue out;
-  registry.fEnumKey("C:\\d\\a.ini", "s");
   registry.fEnumValueb("C:\\d\\a.ini", "s");
   registry.fDeleteValue("C:\\d\\a.ini", "s", "a");
   registry.fReadValue("C:\\d\\a.ini", "s", "a", "s", "", out);
   EXPECT_TRUE(recorder.calls.empty());
+  registry.fEnumKey("C:\\d\\a.ini", "s");
+  registry.fDeleteKey("C:\\d\\a.ini", "s", "a");
+  EXPECT_EQ(recorder.calls, Calls({"open 0x2013F s", "open 0x2013F s"}));
 }
 
 }  // namespace
