@@ -14,7 +14,8 @@ inline constexpr std::uint32_t k64BitView = 0x100;
 inline constexpr std::uint32_t k32BitView = 0x200;
 
 struct RegistryPath {
-  Status status = kSuccess;             ///< 6: no root; 161: begins with "\"; 87
+  /// 6: no root; 161: begins with "\"; 87: a name too long, both views.
+  Status status = kSuccess;
   std::string_view root;                ///< its long name
   std::vector<std::string_view> names;  ///< of the keys below it, none of them empty
 };
