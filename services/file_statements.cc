@@ -19,6 +19,7 @@ void raiseFileError(Status status) {
     case kFileNotFound:
     case kNoMoreFiles:
       throw RuntimeError{kErrFileNotFound, "File not found"};
+    case kDirectory:
     case kPathNotFound:
       throw RuntimeError{kErrPathNotFound, "Path not found"};
     case kSharingViolation:

@@ -1,5 +1,6 @@
 #include "services/registry_layer.h"
 
+#include "basic/number.h"
 #include "basic/resume_next.h"
 #include "basic/text.h"
 #include "basic/utf.h"
@@ -24,6 +25,13 @@ Root rootOf(std::uint32_t code) { return static_cast<Root>(code); }
 void closePacked(std::string& packed) {
   packed += '\0';
   if (packed.size() == 1) packed += '\0';
+}
+
+// A default as the text that an INI read takes it for.
+std::string asText(const ReadValue& value) {
+  if (const auto* text = std::get_if<std::string>(&value)) return *text;
+  if (const auto* truth = std::get_if<bool>(&value)) return *truth ? "True" : "False";
+  return numberText(std::get<std::int32_t>(value));
 }
 
 Status missingIsSuccess(Status status) { return status == kFileNotFound ? kSuccess : status; }
@@ -189,9 +197,8 @@ Status RegistryLayer::fDeleteValue(std::string_view root, std::string_view key,
 Status RegistryLayer::readFromFile(std::string_view file, std::string_view section,
                                    std::string_view name, std::string_view kind,
                                    const ReadValue& fallback, ReadValue& out) const {
-  const auto* text = std::get_if<std::string>(&fallback);
   if (kind == "S") {
-    out = machine_.ini.getString(section, name, text ? *text : "", kIniBuffer, file);
+    out = machine_.ini.getString(section, name, asText(fallback), kIniBuffer, file);
   } else {
     machine_.ini.getInt(section, name, 0, file);  // read, and the answer dropped
   }

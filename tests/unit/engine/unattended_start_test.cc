@@ -163,5 +163,48 @@ TEST(Start, TheSameHandlerErasesForTheArgumentT) {
   EXPECT_FALSE(machine.exists("C:\\Users\\user\\AppData\\Local\\Temp\\a"));
 }
 
+TEST(FormLoad, ATaskTableThatCouldNotBeBuiltPresetsTheWindowsTracks) {
+  TestMachine machine;
+  Program& program = machine.program();
+  program.form.Text4.onChange = nullptr;
+  machine.run("t");
+  const auto value = [&](std::string_view name) {
+    return machine.registryText(Root::kLocalMachine, "software\\tavrwork\\tavr wipe\\option\\win",
+                                name);
+  };
+  for (const char* name : {"8", "9", "10", "11", "12", "13"}) EXPECT_EQ(value(name), "1") << name;
+  EXPECT_EQ(value("7"), "<none>");
+  EXPECT_EQ(value("14"), "<none>");
+}
+
+TEST(FormLoad, GrantsAccessToTheSelectionKeyInTheWiderView) {
+  TestMachine with_key;
+  with_key.key("HKEY_LOCAL_MACHINE\\SOFTWARE\\Tavrwork\\tavr wipe\\option\\win");
+  with_key.run("t");
+  EXPECT_FALSE(with_key.program().form.grant_failed);
+  TestMachine without_key;
+  without_key.run("t");
+  EXPECT_TRUE(without_key.program().form.grant_failed);
+}
+
+TEST(FormLoad, WithoutWmiTheStripAndItsFourButtonsTakeTheDefaultColour) {
+  TestMachine machine;
+  machine.ini("[fault]\nGetObject=0,429\n");
+  machine.run("");
+  const Form1& form = machine.program().form;
+  EXPECT_EQ(form.strip_color, 10118205);
+  for (const StripButton* button : {&form.chameleonButton9, &form.chameleonButton10,
+                                    &form.chameleonButton12, &form.chameleonButton13}) {
+    EXPECT_EQ(button->color, 10118205);
+    EXPECT_EQ(button->hover_color, 10118205);
+  }
+}
+
+TEST(FormLoad, ShowsTheYearOfTheClock) {
+  TestMachine machine;
+  machine.run("");
+  EXPECT_EQ(machine.program().form.Label222.caption, "2026");
+}
+
 }  // namespace
 }  // namespace tavr
