@@ -1,12 +1,12 @@
 // The tracks of Internet Explorer and its shell integration: typed URLs,
-// cookies and DOM storage, the extensible cache keys. The cache files stand in
-// temporary_files.cc, index.dat in index_dat.cc.
+// cookies and DOM storage. The cache files stand in temporary_files.cc, index.dat
+// in index_dat.cc, the extensible cache keys in extensible_cache.cc.
 #include <string>
 
-#include "basic/number.h"
 #include "basic/text.h"
 #include "services/cookies_folder.h"
 #include "tracks/catalogue.h"
+#include "tracks/extensible_cache.h"
 #include "tracks/index_dat.h"
 #include "tracks/primitives.h"
 #include "tracks/temporary_files.h"
@@ -143,110 +143,6 @@ void t7(TrackContext& context, const Procedure& self) {
   context.form.List12.clear();
 }
 
-// --- c11, t11: extensible cache keys ---------------------------------------
-// No run calls them.
-
-constexpr std::string_view kCacheBase =
-    "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\";
-constexpr std::string_view kCacheTail = "\\Cache\\Extensible Cache";
-
-constexpr KeyUse kC11Keys[] = {
-    {keys,
-     "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\6.0\\Cache\\Extensible "
-     "Cache"},
-    {keys,
-     "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\4.0\\Cache\\Extensible "
-     "Cache"},
-    {keys,
-     "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\5.0\\Cache\\Extensible "
-     "Cache"},
-    {tree,
-     "Software\\Microsoft\\Windows\\CurrentVersion\\Internet "
-     "Settings\\{version}\\Cache\\Extensible Cache\\{subkey}"},
-    {read, "HKLM:Network\\Logon"},
-    {keys,
-     "HKU:{user}\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet "
-     "Settings\\6.0\\Cache\\Extensible Cache"},
-    {keys,
-     "HKU:{user}\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet "
-     "Settings\\4.0\\Cache\\Extensible Cache"},
-    {keys,
-     "HKU:{user}\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet "
-     "Settings\\5.0\\Cache\\Extensible Cache"},
-    {tree,
-     "{user}\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet "
-     "Settings\\{version}\\Cache\\Extensible Cache\\{subkey}"},
-};
-constexpr KeyUse kT11Keys[] = {
-    {keys,
-     "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\6.0\\Cache\\Extensible "
-     "Cache"},
-    {keys,
-     "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\4.0\\Cache\\Extensible "
-     "Cache"},
-    {keys,
-     "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\5.0\\Cache\\Extensible "
-     "Cache"},
-};
-constexpr RowForm kHistoryRows[] = {{false, "Cleaning Internet History value: {name}  <OK>"}};
-
-std::string extensibleCache(std::string_view version) {
-  return std::string(kCacheBase) + std::string(version) + std::string(kCacheTail);
-}
-
-// Fills List12 from the first version that is there; returns the version of the
-// last attempt.
-std::string_view findVersion(TrackContext& context, std::string_view root,
-                             const std::string& prefix) {
-  std::string_view version;
-  for (const std::string_view attempt : {"6.0", "4.0", "5.0"}) {
-    version = attempt;
-    if (context.registry.fEnumKey(root, prefix + extensibleCache(version)) == kSuccess) break;
-  }
-  return version;
-}
-
-// The rows of List12, once even when it is empty; `clean` is handed each name.
-template <class Clean>
-void historyRows(TrackContext& context, const RowForm& row, double& total, Clean&& clean) {
-  Form1& form = context.form;
-  int i = 0;
-  do {
-    context.machine.events.doEvents();
-    clean(form.List12.at(i));
-    showRow(context, row, {form.List12.at(i)});
-    total += 1;
-    form.trackcount += 1;
-    addTo(form.txtregcount, 1);
-    setCount(context, numberText(total));
-    ++i;
-  } while (i <= form.List12.count() - 1);
-}
-
-void t11(TrackContext& context, const Procedure& self) {
-  double total = 0;
-  findVersion(context, "HKCU", "");
-  historyRows(context, self.rows[0], total, [](const std::string&) {});
-  if (total == 0) setCount(context, "0");  // never met: the loop counts at least one
-}
-
-void c11(TrackContext& context, const Procedure& self) {
-  double total = 0;
-  const std::string own = extensibleCache(findVersion(context, "HKCU", ""));
-  historyRows(context, self.rows[0], total, [&](const std::string& name) {
-    fDeleteKeyTree(context, Root::kCurrentUser, own + "\\" + std::string(Trim(name)));
-  });
-  if (total == 0) setCount(context, "0");
-  std::string user;
-  context.registry.fGetString(Root::kLocalMachine, "Network\\Logon", "username", user);
-  const std::string prefix = std::string(Trim(user)) + "\\";
-  const std::string logged_on = prefix + extensibleCache(findVersion(context, "HKU", prefix));
-  // The names come from HKU; what is deleted lies under the current user.
-  historyRows(context, self.rows[0], total, [&](const std::string& name) {
-    fDeleteKeyTree(context, Root::kCurrentUser, logged_on + "\\" + name);
-  });
-}
-
 constexpr Procedure kInternetExplorer[] = {
     {"c6", "Typed URLs", OwnProcedure{c6}, RowTail::none, {}, kC6Keys, kTypedRows},
     {"t6", "Typed URLs", OwnProcedure{t6}, RowTail::none, {}, kT6Keys, kTypedRows},
@@ -272,8 +168,20 @@ constexpr Procedure kInternetExplorer[] = {
      index_dat::kC9Keys, index_dat::kRows},
     {"t9", "index.dat files", OwnProcedure{index_dat::t9}, RowTail::full, index_dat::kT9Searches,
      index_dat::kT9Keys, index_dat::kRows},
-    {"c11", "Extensible cache keys", OwnProcedure{c11}, RowTail::full, {}, kC11Keys, kHistoryRows},
-    {"t11", "Extensible cache keys", OwnProcedure{t11}, RowTail::full, {}, kT11Keys, kHistoryRows},
+    {"c11",
+     "Extensible cache keys",
+     OwnProcedure{extensible_cache::c11},
+     RowTail::full,
+     {},
+     extensible_cache::kC11Keys,
+     extensible_cache::kHistoryRows},
+    {"t11",
+     "Extensible cache keys",
+     OwnProcedure{extensible_cache::t11},
+     RowTail::full,
+     {},
+     extensible_cache::kT11Keys,
+     extensible_cache::kHistoryRows},
 };
 static_assert(wellFormed(kInternetExplorer));
 

@@ -8,11 +8,13 @@
 #include "tracks/catalogue.h"
 #include "tracks/dialogs.h"
 #include "tracks/primitives.h"
+#include "tracks/searching_history.h"
 
 namespace tavr {
 
 namespace {
 
+using searching_history::kSearch;
 using enum Primitive;
 using enum KeyAct;
 
@@ -21,8 +23,6 @@ constexpr std::string_view kRunMru =
     "software\\microsoft\\windows\\currentversion\\explorer\\runmru";
 constexpr std::string_view kRunMruNt =
     "software\\microsoft\\windows nt\\currentversion\\explorer\\runmru";
-constexpr std::string_view kSearch =
-    "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\WordWheelQuery";
 constexpr std::string_view kSearchGranted =
     "software\\microsoft\\windows\\currentversion\\explorer\\WordWheelQuery";
 constexpr std::string_view kExplorerBars = "Software\\Microsoft\\Internet Explorer\\Explorer Bars";
@@ -197,67 +197,6 @@ void t4(TrackContext& context, const Procedure& self) {
 constexpr Entry kC10[] = {{srchd, "%Temp%", "*.*", "windows temp folder "}};
 constexpr Entry kT10[] = {{srch, "%Temp%", "*.*", "windows temp folder "}};
 
-// --- c95, t95: Windows Searching History -----------------------------------
-
-constexpr Entry kC95Searches[] = {{srchd2,
-                                   "%PROGRAMDATA%\\Microsoft\\Search\\Data\\Applications\\Windows",
-                                   "*.log", "Windows Searching History : "}};
-constexpr Entry kT95Searches[] = {{srch2,
-                                   "%PROGRAMDATA%\\Microsoft\\Search\\Data\\Applications\\Windows",
-                                   "*.log", "Windows Searching History : "}};
-constexpr std::string_view kSearchSubkey =
-    "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\WordWheelQuery\\{subkey}";
-constexpr KeyUse kC95Keys[] = {
-    {grant, kSearch},       {keys, kSearch},   {values, kSearchSubkey}, {read, kSearchSubkey},
-    {value, kSearchSubkey}, {values, kSearch}, {value, kSearch}};
-constexpr KeyUse kT95Keys[] = {{grant, kSearch},
-                               {keys, kSearch},
-                               {values, kSearchSubkey},
-                               {read, kSearchSubkey},
-                               {values, kSearch}};
-constexpr RowForm kC95Rows[] = {{true, ": {data}  <OK>"}};
-
-// Each subkey of the search key; with no subkey once, with an empty name. The
-// values come from `in_subkey` the subkey or the key itself; their data is
-// always looked up in the subkey.
-void searchingValues(TrackContext& context, const RowForm& row, bool in_subkey, bool clean) {
-  int j = 0;
-  do {
-    context.machine.events.doEvents();
-    const std::string subkey = std::string(kSearch) + "\\" + context.form.List12.at(j);
-    const std::string key = in_subkey ? subkey : std::string(kSearch);
-    context.registry.fEnumValueb("HKCU", key);
-    int i = 0;
-    do {
-      context.machine.events.doEvents();
-      std::string data;
-      context.registry.fGetString(Root::kCurrentUser, subkey, context.form.List20.at(i), data);
-      if (!Trim(data).empty()) {
-        // Nothing stands in front of the colon: the text for it is never set.
-        showRow(context, row, {data});
-        context.form.trackcount += 1;
-      }
-      if (clean) context.registry.fDeleteValue("HKCU", key, context.form.List20.at(i));
-      ++i;
-    } while (i <= context.form.List20.count() - 1);
-    ++j;
-  } while (j <= context.form.List12.count() - 1);
-}
-
-void searchingHistory(TrackContext& context, const Procedure& self, bool clean) {
-  context.form.List12.clear();
-  const Entry& logs = self.searches[0];
-  runEntry(context, logs, expandPlace(context, logs.folder));
-  grantKey(context, kSearch);
-  context.registry.fEnumKey("HKCU", kSearch);
-  searchingValues(context, self.rows[0], true, clean);
-  searchingValues(context, self.rows[0], false, clean);
-}
-
-void c95(TrackContext& context, const Procedure& self) { searchingHistory(context, self, true); }
-
-void t95(TrackContext& context, const Procedure& self) { searchingHistory(context, self, false); }
-
 // --- c96, t96: Notification area icon cache --------------------------------
 
 constexpr std::string_view kPastIconsValue =
@@ -316,10 +255,10 @@ constexpr Procedure kWindows[] = {
      dialogs::kT5Rows},
     {"c10", "Windows Temp", FixedFolder{}, RowTail::bold, kC10, {}, {}},
     {"t10", "Windows Temp", FixedFolder{}, RowTail::none, kT10, {}, {}},
-    {"c95", "Windows Searching History", OwnProcedure{c95}, RowTail::none, kC95Searches, kC95Keys,
-     kC95Rows},
-    {"t95", "Windows Searching History", OwnProcedure{t95}, RowTail::none, kT95Searches, kT95Keys,
-     kC95Rows},
+    {"c95", "Windows Searching History", OwnProcedure{searching_history::c95}, RowTail::none,
+     searching_history::kC95Searches, searching_history::kC95Keys, searching_history::kC95Rows},
+    {"t95", "Windows Searching History", OwnProcedure{searching_history::t95}, RowTail::none,
+     searching_history::kT95Searches, searching_history::kT95Keys, searching_history::kC95Rows},
     {"c96",
      "Notification Area icon cache",
      OwnProcedure{c96},
