@@ -72,7 +72,7 @@ void DirListBox::setPath(std::string_view path) {
 
 std::string DirListBox::list(int index) const {
   const std::string name = elementOrNone(names_, index);
-  if (name.empty()) return name;
+  if (name.empty()) return "";
   return std::string(withoutBackslash(path_)) + "\\" + name;
 }
 

@@ -6,7 +6,7 @@ namespace tavr {
 
 namespace {
 
-constexpr std::size_t kPrintBuffer = 64 * 1024;
+constexpr std::size_t kPrintBuffer = std::size_t{64} * 1024;
 
 bool hasWildcard(std::string_view path) { return path.find_first_of("*?") != path.npos; }
 

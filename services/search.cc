@@ -13,6 +13,7 @@ namespace tavr {
 namespace {
 
 constexpr std::string_view kModule = "Search";
+constexpr std::uint64_t kTicksPerSecond = 10000000;
 constexpr double kSecondsPerDay = 86400;
 // 1601-01-01 to 1899-12-30.
 constexpr double kFileTimeToDateDays = 109205;
@@ -22,7 +23,8 @@ constexpr double kEndOfDates = 2958466;
 }  // namespace
 
 Date fileTimeToDate(std::uint64_t file_time) {
-  const auto seconds = static_cast<double>(file_time / 10000000);
+  const std::uint64_t whole_seconds = file_time / kTicksPerSecond;
+  const auto seconds = static_cast<double>(whole_seconds);
   const Date date = seconds / kSecondsPerDay - kFileTimeToDateDays;
   if (date >= kEndOfDates) throw RuntimeError{kErrTypeMismatch, "Type mismatch"};
   if (date >= 0) return date;

@@ -21,9 +21,9 @@ class FolderParent::View : public MappingView {
  public:
   View(FolderParent& owner, std::shared_ptr<Section> section, std::size_t size)
       : owner_(owner), section_(std::move(section)), size_(size) {
-    owner_.views_.emplace(address(), size_);
+    owner_.views_.emplace(View::address(), View::bytes());
   }
-  ~View() override { owner_.views_.erase(owner_.views_.find(address())); }
+  ~View() override { owner_.views_.erase(owner_.views_.find(View::address())); }
   View(const View&) = delete;
   View& operator=(const View&) = delete;
 
@@ -91,8 +91,7 @@ void FolderParent::sendMessage(WindowHandle window, std::uint32_t message, std::
                  std::to_string(lparam));
     return;
   }
-  const auto* text = reinterpret_cast<const char*>(view->first);
-  log_.addLine(untilNul({text, view->second}));
+  log_.addLine(untilNul({view->second.data(), view->second.size()}));
 }
 
 }  // namespace tavr::folder

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -36,7 +37,7 @@ class FolderParent : public ParentLink {
   MachineLog log_;
   // Mappings by name and views by address, while somebody holds them.
   std::map<std::string, std::weak_ptr<Section>, std::less<>> sections_;
-  std::multimap<std::uintptr_t, std::size_t> views_;
+  std::multimap<std::uintptr_t, std::span<char>> views_;
   Faults::Point& mapping_fault_;
   Faults::Point& view_fault_;
   Faults::Point& window_fault_;
