@@ -6,11 +6,12 @@
 #include <string_view>
 #include <vector>
 
+#include "forms/control.h"
 #include "platform/files.h"
 
 namespace tavr {
 
-class FileListBox {
+class FileListBox : public Control {
  public:
   explicit FileListBox(Files& files) : files_(files) {}
 
@@ -37,7 +38,7 @@ class FileListBox {
   std::vector<std::string> names_;
 };
 
-class DirListBox {
+class DirListBox : public Control {
  public:
   explicit DirListBox(Files& files) : files_(files) {}
 

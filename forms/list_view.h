@@ -4,8 +4,12 @@
 #include <array>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "forms/control.h"
 
 namespace tavr {
 
@@ -30,14 +34,25 @@ struct ListRow {
 };
 
 /// Rows are numbered from 1.
-class ListView {
+class ListView : public Control {
  public:
+  std::vector<std::string> columns;  ///< header texts
+  int selected = 0;                  ///< the row that was clicked last, 0 for none
+
+  /// The row's check mark was set by a person.
+  std::function<void(int row)> onItemCheck;
+  /// The row was clicked.
+  std::function<void(int row)> onItemClick;
+
   void clear() { rows_.clear(); }
   ListRow& add(std::string_view text, std::string_view small_icon);
   int count() const { return static_cast<int>(rows_.size()); }
   /// Raises 35600 for a row that does not exist. `row` is rounded, as an index
   /// of any number is.
   ListRow& item(double row);
+
+  /// Its number of rows.
+  std::string shown() const override { return std::to_string(count()); }
 
  private:
   std::deque<ListRow> rows_;

@@ -8,12 +8,17 @@
 #include <initializer_list>
 #include <memory>
 #include <string_view>
+#include <string>
 #include <vector>
+
+#include "forms/control.h"
 
 namespace tavr {
 
-class ResultList {
+class ResultList : public Control {
  public:
+  std::vector<std::string> columns;  ///< header texts
+
   void clear();
   std::size_t count() const { return count_; }
 
@@ -28,6 +33,9 @@ class ResultList {
   /// Rows are numbered from 1. Raises 35600 for a row that does not exist.
   std::string_view text(std::size_t row) const;
   bool ghosted(std::size_t row) const;
+
+  /// Its number of rows.
+  std::string shown() const override { return std::to_string(count_); }
 
   /// The row last scrolled into view, 0 for none.
   std::size_t ensuredRow() const { return ensured_row_; }

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "platform/clock.h"
+#include "platform/desktop.h"
 #include "platform/dialogs.h"
 #include "platform/environment.h"
 #include "platform/event_log.h"
@@ -35,6 +36,7 @@ struct Machine {
   Events& events;
   Dialogs& dialogs;
   Environment& environment;
+  Desktop& desktop;
 };
 
 }  // namespace tavr
