@@ -118,7 +118,7 @@ void Form_Initialize(Program& program, std::string_view command) {
       form.hideOnLoad = 1;
     }
   } else if (line == "s") {
-    form.minimised = true;
+    form.window_state = WindowState::kMinimised;
     form.Text11.setText("s");
   }
 }

@@ -11,6 +11,7 @@
 
 #include "forms/controls.h"
 #include "forms/file_boxes.h"
+#include "forms/form.h"
 #include "forms/list_view.h"
 #include "forms/progress_bar.h"
 #include "forms/result_list.h"
@@ -28,15 +29,15 @@ struct StripButton {
   std::int32_t hover_color = 0;
 };
 
-struct Form1 {
+struct Form1 : Form {
   explicit Form1(Machine& machine)
-      : bar1(machine.dialogs),
+      : Form("Form1", "Spoorwipe", 960, 640),
+        bar1(machine.dialogs),
         Timer2(machine.events, 100),
         File1(machine.files),
-        Dir1(machine.files) {}
-
-  bool visible = true;
-  bool minimised = false;  // WindowState
+        Dir1(machine.files) {
+    visible = true;
+  }
 
   // Run mode, set once by the command line.
   bool hasArguments = false;

@@ -5,13 +5,14 @@
 #include <string_view>
 
 #include "forms/controls.h"
+#include "forms/form.h"
 
 namespace tavr {
 
-struct frmmsg {
-  std::string caption;
+struct frmmsg : Form {
+  frmmsg() : Form("frmmsg", "", 420, 180) {}
+
   TextBox Text1;
-  bool visible = false;
 
   /// The message dialog: shown without waiting for an answer. The subject is
   /// passed by every caller and shown nowhere.

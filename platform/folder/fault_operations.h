@@ -27,6 +27,8 @@ inline constexpr std::string_view kFaultOperations[] = {
     "CreateProcess", "HtmlHelp",
     // event log, link to the parent program
     "ReportEvent", "CreateFileMapping", "MapViewOfFile", "FindWindow",
+    // desktop
+    "RegisterHotKey",
 };
 // clang-format on
 

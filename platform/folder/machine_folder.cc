@@ -13,6 +13,7 @@
 
 #include "platform/folder/faults.h"
 #include "platform/folder/file_descriptor.h"
+#include "platform/folder/folder_desktop.h"
 #include "platform/folder/folder_dialogs.h"
 #include "platform/folder/folder_environment.h"
 #include "platform/folder/folder_events.h"
@@ -129,10 +130,12 @@ struct MachineFolder::Parts {
   FolderIniFiles ini_files{files};
   FolderShell shell{directory, ini.cookies, recycle_bin, system_files, environment, faults};
   FolderEventLog event_log{directory, faults};
+  FolderDesktop desktop{faults};
   FolderParent parent{directory, ini.parent_window, faults};
 
   Machine machine{registry,  wmi,    ini_files, files,  processes, url_cache, shell,
-                  event_log, parent, *clock,    locale, events,    dialogs,   environment};
+                  event_log, parent, *clock,    locale, events,    dialogs,   environment,
+                  desktop};
 
   static Faults faultsOf(const MachineIni& ini) {
     Faults faults;
@@ -173,6 +176,8 @@ bool MachineFolder::save() { return parts_->save(); }
 void MachineFolder::setInterruptHandler(std::function<void()> handler) {
   parts_->events.setInterruptHandler(std::move(handler));
 }
+
+FolderDesktop& MachineFolder::desktop() { return parts_->desktop; }
 
 void MachineFolder::interrupt() { parts_->events.interrupt(); }
 

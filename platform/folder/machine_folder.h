@@ -20,6 +20,8 @@ struct UnusableMachine : std::runtime_error {
 /// Asks the person at the terminal; returns 6 (Yes) or 7 (No).
 using AskPerson = std::function<int(std::string_view text, std::string_view title)>;
 
+class FolderDesktop;
+
 class MachineFolder {
  public:
   /// Reads every file of the machine and touches nothing. Raises
@@ -36,6 +38,9 @@ class MachineFolder {
   /// Writes registry.reg back if it changed (beside, flushed, renamed). False:
   /// it could not be written and the old file stands.
   bool save();
+
+  /// The desktop, for whoever acts in the place of a person.
+  FolderDesktop& desktop();
 
   /// Asks the next doEvents to call `handler` once; safe in a signal handler.
   void setInterruptHandler(std::function<void()> handler);

@@ -113,7 +113,7 @@ TEST_P(CommandLine, SetsTheModeFields) {
   const Form1& form = machine.program().form;
   const Modes found = {form.hasArguments, form.unattended,    form.resultMode,
                        form.parentMode,   form.hideOnLoad,    form.visible,
-                       form.minimised,    form.Text11.text(), form.dialog_mode};
+                       (form.window_state == WindowState::kMinimised),    form.Text11.text(), form.dialog_mode};
   EXPECT_EQ(found, GetParam().modes);
 }
 

@@ -97,7 +97,7 @@ class TrackTest : public ::testing::Test {
     registry_ = std::make_unique<RecordingRegistry>(m.registry);
     machine_ = std::make_unique<Machine>(
         Machine{*registry_, m.wmi, m.ini, m.files, m.processes, m.url_cache, m.shell, m.event_log,
-                m.parent, m.clock, m.locale, *events_, m.dialogs, m.environment});
+                m.parent, m.clock, m.locale, *events_, m.dialogs, m.environment, m.desktop});
     program_ = std::make_unique<Program>(*machine_);
     Form1& f = program_->form;
     f.View100.add("Task", "a");
