@@ -5,7 +5,9 @@
 #include <csignal>
 #include <cstdio>
 #include <exception>
+#include <fstream>
 #include <iostream>
+#include <iterator>
 #include <string>
 
 #include <unistd.h>
@@ -13,13 +15,18 @@
 #include "app/options.h"
 #include "app/version.h"
 #include "basic/resume_next.h"
+#include "basic/text.h"
+#include "engine/play.h"
 #include "engine/start.h"
+#include "engine/window.h"
+#include "platform/folder/folder_desktop.h"
 #include "platform/folder/machine_folder.h"
 #include "ui/terminal/report.h"
 
 namespace {
 
 constexpr int kDone = 0;
+constexpr int kNotAsExpected = 1;
 constexpr int kWrongCall = 2;
 
 std::atomic<tavr::folder::MachineFolder*> interrupted_machine;  // for the signal handler alone
@@ -60,9 +67,46 @@ bool runToItsEnd(tavr::Program& program) {
   return false;
 }
 
+tavr::PlayActions actionsOn(tavr::folder::MachineFolder& folder, tavr::Program& program) {
+  tavr::PlayActions actions;
+  actions.form = [&program](std::string_view name) -> tavr::Form* {
+    program.desk.freeUnloaded();
+    if (tavr::sameText(name, program.form.name())) return &program.form;
+    return program.desk.loaded(name);
+  };
+  actions.wait = [&program](std::uint32_t ms) { program.machine.events.wait(ms); };
+  actions.hotkey = [&program] { tavr::hotKeyProcedure(program, tavr::kHotKeyMessage, 1); };
+  actions.minimise = [&program] { tavr::setWindowState(program, tavr::WindowState::kMinimised); };
+  actions.close = [&program] { tavr::closeWindow(program); };
+  actions.choose = [&folder](std::string_view file) { folder.desktop().chooseNext(file); };
+  return actions;
+}
+
+// Loads the main form as a person's start does and plays the script on it. A
+// script may end the program.
+int playOn(tavr::folder::MachineFolder& folder, tavr::Program& program,
+           const tavr::Options& options) {
+  std::ifstream file(options.play, std::ios::binary);
+  if (!file) return fail(options.play + ": cannot be read");
+  const std::string script{std::istreambuf_iterator<char>(file), {}};
+  std::string message;
+  auto result = tavr::PlayResult::kDone;
+  try {
+    tavr::Form_Load(program);
+    result = tavr::play(script, actionsOn(folder, program), stdout, message);
+  } catch (const tavr::ProcessEnd&) {
+    // The script, or an unattended start, has ended the program.
+  }
+  if (!folder.save()) return fail(options.machine + "/registry.reg: cannot be written");
+  if (result == tavr::PlayResult::kDone) return kDone;
+  fail(options.play + ":" + message);
+  return result == tavr::PlayResult::kExpectFailed ? kNotAsExpected : kWrongCall;
+}
+
 int runOn(tavr::folder::MachineFolder& folder, const tavr::Options& options) {
   tavr::Program program(folder.machine());
   tavr::Form_Initialize(program, options.arguments);
+  if (!options.play.empty()) return playOn(folder, program, options);
   if (program.form.unattended != 1) {
     return fail(
         "these arguments open the window, which needs the Windows program; "

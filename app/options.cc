@@ -19,6 +19,12 @@ Options parseOptions(int argc, const char* const* argv) {
         options.error = "--machine needs a folder";
         return options;
       }
+    } else if (option == "--play") {
+      if (i + 1 == argc) {
+        options.error = "--play needs a file";
+        return options;
+      }
+      options.play = argv[++i];
     } else if (option == "--quiet") {
       options.quiet = true;
     } else if (option == "--rows") {
@@ -49,13 +55,14 @@ Options parseOptions(int argc, const char* const* argv) {
 }
 
 const char* helpText() {
-  return R"(usage: tavrwipe --machine DIR [--quiet] [--rows] ARGUMENTS
+  return R"(usage: tavrwipe --machine DIR [--quiet] [--rows] [--play FILE] ARGUMENTS
 
 Tests or erases the traces on a Windows machine that is kept in the folder DIR.
 
   --machine DIR  the machine folder
   --quiet        print no tables
   --rows         print every results row to standard output instead of the tables
+  --play FILE    drives the interactive program by a script (docs/play.md)
   --help         this text
   --version      the program's version
 
@@ -70,8 +77,8 @@ ARGUMENTS, as the Windows program takes them:
 An interrupt stops the run's searches, as the Stop button does; a run that follows
 still starts. A second one ends the process.
 
-Exit status: 0 when the run has been carried out, 2 for a wrong call or a folder
-that cannot be used.
+Exit status: 0 when the run has been carried out, 1 when a script expected something
+else, 2 for a wrong call or a folder that cannot be used.
 )";
 }
 

@@ -8,6 +8,7 @@ namespace tavr {
 struct Options {
   std::string machine;    ///< DIR
   std::string arguments;  ///< what stands behind the options, joined by blanks
+  std::string play;       ///< a script to play; "" for none
   bool quiet = false;
   bool rows = false;
   bool help = false;
@@ -15,7 +16,7 @@ struct Options {
   std::string error;  ///< not empty: the call is wrong, one line
 };
 
-/// tavrwipe --machine DIR [--quiet] [--rows] [ARGUMENTS] | --help | --version
+/// tavrwipe --machine DIR [--quiet] [--rows] [--play FILE] [ARGUMENTS] | --help | --version
 Options parseOptions(int argc, const char* const* argv);
 
 /// The text of --help.

@@ -1,11 +1,12 @@
 #include "engine/program.h"
 
 #include "basic/number.h"
+#include "engine/commands.h"
 #include "engine/counters.h"
-#include "engine/log_commands.h"
 #include "engine/runs.h"
 #include "engine/start.h"
 #include "engine/task_table.h"
+#include "engine/window.h"
 
 namespace tavr {
 
@@ -14,13 +15,6 @@ namespace {
 PlugInControls plugInControls(Form1& form) {
   return {form.View1, form.File1, form.Text3, form.List4,  form.List5, form.List6,
           form.List7, form.List8, form.List9, form.List10, form.List11};
-}
-
-// What stands hidden or disabled on the fresh form.
-void freshForm(Form1& form) {
-  form.cmd_stop.enabled = false;
-  form.Label1[0].visible = false;
-  form.Gif89a1.visible = false;
 }
 
 }  // namespace
@@ -35,22 +29,17 @@ Program::Program(Machine& on)
       tracks{on, form, registry, deletion, cache, call_stack},
       plug_ins(on, numbers, registry, plugInControls(form)),
       parent_totals(on),
-      directory_search(on) {
-  freshForm(form);
+      directory_search(on),
+      language(on, registry),
+      desk(*this) {
   form.Text4.onChange = [this] { Text4_Change(*this); };
   form.Text5.onChange = [this] { Text5_Change(*this); };
   form.Text15.onChange = [this] { Text15_Change(*this); };
   form.txtfilecount.onChange = [this] { txtfilecount_Change(*this); };
   form.Timer2.onTick = [this] { Timer2_Timer(*this); };
-  form.cmd_start.onClick = [this] { cmd_start_Click(*this); };
-  form.cmd_test.onClick = [this] { cmd_test_Click(*this); };
-  form.cmd_stop.onClick = [this] { cmd_stop_Click(*this); };
-  form.cmd_view.onClick = [this] { form.chameleonButton1.click(); };
-  form.cmd_clear.onClick = [this] { form.chameleonButton2.click(); };
-  form.chameleonButton1.onClick = [this] { viewLog(*this); };
-  form.chameleonButton2.onClick = [this] { clearLog(*this); };
-  form.chameleonButton5.onClick = [this] { eraseRun(*this); };
-  form.chameleonButton6.onClick = [this] { testRun(*this); };
+  form.Timer1.onTick = [this] { desk.scheduleTick(); };
+  connectCommands(*this);
+  connectWindow(*this);
 }
 
 std::string Program::file(std::string_view name) const {

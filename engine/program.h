@@ -7,7 +7,9 @@
 #include <string>
 #include <string_view>
 
+#include "config/language.h"
 #include "config/plug_ins.h"
+#include "engine/form_desk.h"
 #include "forms/form1.h"
 #include "forms/frmmsg.h"
 #include "platform/machine.h"
@@ -42,6 +44,16 @@ struct Program {
   PlugIns plug_ins;
   ParentTotals parent_totals;
   clsdirsearch directory_search;
+  Language language;
+  FormDesk desk;
+
+  // The hot keys: how many were registered, and whether their window procedure
+  // stands before the form's own.
+  int hot_key_count = 0;
+  bool hot_key_installed = false;
+  // Where the settings button stood on the screen at load, in twips.
+  int settings_button_left = 0;
+  int settings_button_top = 0;
 
   /// A file of the program's folder.
   std::string file(std::string_view name) const;

@@ -8,6 +8,7 @@
 #include "basic/text.h"
 #include "engine/runs.h"
 #include "engine/task_table.h"
+#include "engine/window.h"
 #include "services/access.h"
 #include "services/settings_keys.h"
 
@@ -39,7 +40,8 @@ void colorTitleStrip(Program& program) {
     form.strip_color = color;
     for (StripButton* button : {&form.chameleonButton9, &form.chameleonButton10,
                                 &form.chameleonButton12, &form.chameleonButton13}) {
-      *button = {color, color};
+      button->color = color;
+      button->hover_color = color;
     }
   });
 }
@@ -77,6 +79,57 @@ void runUnattended(Program& program) {
   }
   program.registry.saveSetting(settings::kLiveKey, "ic", "1");
   throw ProcessEnd{};
+}
+
+void centre(Program& program) {
+  const ScreenSize screen = program.machine.desktop.screen();
+  program.form.left = (screen.width - program.form.width) / 2;
+  program.form.top = (screen.height - program.form.height) / 2;
+}
+
+void readTexts(Program& program) {
+  Form1& form = program.form;
+  const std::string language = program.registry.setting(settings::kMainKey, "language");
+  form.txtlang.setText(Trim(language).empty() ? "english.ini" : language);
+  form.txtlang.setText(Trim(std::string(form.txtlang.text())));
+  centre(program);
+  form.Text12.setText(Trim(program.registry.setting(settings::kMainKey, "homepage")));
+  form.Text13.setText(program.registry.setting(settings::kMainKey, "titlepage"));
+}
+
+// The log-on start asks for an Erase of its own.
+void runAtWindowsStart(Program& program) {
+  Form1& form = program.form;
+  const double asked = Val(program.registry.setting(settings::kTimerKey, "winstart"));
+  if (asked != 1 || Trim(form.Text11.text()) != "s") return;
+  form.Text5.setText("0");
+  form.Text5.setText("2");
+}
+
+// The very first start leads to the settings.
+void openSettingsOnFirstStart(Program& program) {
+  Form1& form = program.form;
+  if (Val(program.registry.setting(settings::kFirstTimeKey, "firsttime")) != 0) return;
+  if (form.unattended != 0) return;
+  program.desk.openSettings();
+  program.registry.saveSetting(settings::kFirstTimeKey, "firsttime", "1");
+}
+
+void loadInteractive(Program& program) {
+  Form1& form = program.form;
+  readTexts(program);
+  runAtWindowsStart(program);
+  Command5_Click(program);
+  installHotKey(program);
+  Command6_Click(program);
+  if (form.unattended == 5) {
+    form.chameleonButton7.click();
+    form.visible = false;
+  }
+  openSettingsOnFirstStart(program);
+  // The showing of the form, which follows its loading, raises these two.
+  Form_Resize(program);
+  if (form.visible) Form_Activate(program);
 }
 
 }  // namespace
@@ -123,21 +176,24 @@ void Form_Initialize(Program& program, std::string_view command) {
   }
 }
 
-// What only a window shows (pictures, headers, captions) is the view's.
 void Form_Load(Program& program) {
   Form1& form = program.form;
+  form.Timer1.setEnabled(true);
+  program.desk.loadLanguages();
   colorTitleStrip(program);
   if (form.hideOnLoad == 1) form.visible = false;
   program.directory_search.found = [&form](const std::string& name, const std::string&) {
     search_found(form.List6, name);
   };
   form.stopflag = 0;
+  form.Gif89a1.file = program.file("search.gif");
   form.Label222.caption = numberText(program.machine.clock.now().year);
   form.grant_failed = !GrantKeyAccess(program.machine, Root::kLocalMachine, settings::kSelectionKey,
                                       program.machine.environment.get("UserName"));
   form.Text4.setText("1");
   chooseDefaults(program);
   if (form.unattended == 1) runUnattended(program);
+  loadInteractive(program);
 }
 
 void Text15_Change(Program& program) {

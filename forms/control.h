@@ -11,12 +11,12 @@
 namespace tavr {
 
 enum class ControlKind : std::uint8_t {
-  kButton,      ///< chameleonButton, cmd_ buttons, command buttons
+  kButton,  ///< chameleonButton, cmd_ buttons, command buttons
   kCheckBox,
   kComboBox,
   kDirList,
   kFileList,
-  kFrame,       ///< a panel that holds other controls
+  kFrame,  ///< a panel that holds other controls
   kLabel,
   kList,
   kListView,

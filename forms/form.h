@@ -22,7 +22,7 @@ class Form {
   Form& operator=(const Form&) = delete;
 
   std::string caption;
-  int width;   ///< pixels at 96 dpi
+  int width;  ///< pixels at 96 dpi
   int height;
   int left = 0;
   int top = 0;

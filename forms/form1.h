@@ -5,16 +5,19 @@
 
 #include <array>
 #include <cstdint>
+#include <deque>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "forms/chameleon_button.h"
 #include "forms/controls.h"
 #include "forms/file_boxes.h"
 #include "forms/form.h"
 #include "forms/list_view.h"
 #include "forms/progress_bar.h"
 #include "forms/result_list.h"
+#include "forms/tray_area.h"
 #include "platform/machine.h"
 
 namespace tavr {
@@ -23,21 +26,16 @@ namespace tavr {
 /// there or it is not.
 struct FileSystemObject {};
 
-/// Back colours of a title-strip button, at rest and under the mouse.
-struct StripButton {
-  std::int32_t color = 0;
-  std::int32_t hover_color = 0;
-};
+/// A button of the title strip: it takes the strip's colour at rest and under
+/// the mouse.
+using StripButton = ChameleonButton;
 
 struct Form1 : Form {
-  explicit Form1(Machine& machine)
-      : Form("Form1", "Spoorwipe", 960, 640),
-        bar1(machine.dialogs),
-        Timer2(machine.events, 100),
-        File1(machine.files),
-        Dir1(machine.files) {
-    visible = true;
-  }
+  /// Every control in its place; no handler is in.
+  explicit Form1(Machine& machine);
+
+  /// A row of the language list that was loaded beside the designed one.
+  void takeLanguageRow(Label& row);
 
   // Run mode, set once by the command line.
   bool hasArguments = false;
@@ -57,26 +55,54 @@ struct Form1 : Form {
   std::optional<FileSystemObject> file_system_object;
   double recycled_items = 0;  // what the recycle bin held at the last look
   bool grant_failed = false;  // outcome of the last access grant
+  double next_date = 0;       // of the schedule, as last read (config/dates.h)
 
-  // The title strip.
+  bool shadow = false;  // a soft shadow stands behind the form
+
+  // The title strip: close, minimise, language list, about, and the name.
   std::int32_t strip_color = 0;
   StripButton chameleonButton9, chameleonButton10, chameleonButton12, chameleonButton13;
-  Label Label222;  // the year
+  std::deque<Label> Label88 = std::deque<Label>(7);  // [6]: the program's name
+  Label Label222;                                    // the year
+
+  // The language list that chameleonButton12 opens.
+  Picture pictrlang;
+  Picture imglangselect;  // marks the row in force
+  std::deque<Label> lbllanguage = std::deque<Label>(1);
+
+  // The toolbar by button index; what carries no command separates.
+  Frame Toolbar1;
+  std::array<Button, 15> toolbar;  // 1 to 14
+
+  // The popup menu of the tray icon, visible while it is open: "a", "a1" to "a10".
+  Frame bccc;
+  std::array<Button, 11> menu;
 
   // What a person watches.
   ListView View100;
   ResultList View200;
   std::array<Label, 2> Label1;  // of a run: Label1[0]
   Label Label2, Label4, Label6;
+  Label Label3, Label5;  // captions, with Label1[1]
   ProgressBar bar1;
   Picture Gif89a1;
+
+  // The command column.
   Button cmd_settings, cmd_option, cmd_plugin, cmd_test, cmd_start, cmd_stop, cmd_view, cmd_clear;
-  Button chameleonButton1, chameleonButton2;  // view log, clear log
-  Button chameleonButton5, chameleonButton6;  // Erase, Test
-  FormTimer Timer2;
+  ChameleonButton chameleonButton1, chameleonButton2;  // view log, clear log
+  ChameleonButton chameleonButton3, chameleonButton4;  // plug-in maker, help
+  ChameleonButton chameleonButton5, chameleonButton6;  // Erase, Test
+  ChameleonButton chameleonButton7, chameleonButton8;  // settings, options
+  ChameleonButton chameleonButton11;                   // exit
+  Picture Image44;                                     // help
+
+  Button Command5, Command6;  // procedures that other forms and the start call
+  FormTimer Timer1, Timer2;
+  TrayArea TrayArea1;
 
   // Hidden controls: variables, triggers and scratch lists.
-  TextBox Text2, Text3, Text4, Text5, Text10, Text11, Text12, Text13, Text14, Text15, Text16;
+  TextBox Text2, Text3, Text4, Text5, Text7, Text8, Text9, Text10, Text11, Text12, Text13, Text14,
+      Text15, Text16;
   TextBox txtregcount, txtfilecount, txtfilesize, txtcountfil, txtlang;
   TextList List4, List5, List6, List7, List8, List9, List10, List11;
   TextList List12, List13, List20, List21;

@@ -1,6 +1,9 @@
-// The program's own message form, as its procedures set it: heading and text.
+// The program's own message form, with Yes and No: a note when it is shown by
+// showMessage, a question when somebody waits for the state text.
 #pragma once
 
+#include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -9,14 +12,30 @@
 
 namespace tavr {
 
+/// A place for every control of frmmsg.
+std::span<const ControlDesign> frmmsgDesign();
+
 struct frmmsg : Form {
-  frmmsg() : Form("frmmsg", "", 420, 180) {}
+  frmmsg();
 
   TextBox Text1;
+  Button chameleonButton1;  ///< answers "vbYes"
+  Button command2;          ///< answers "vbNo"
+
+  /// "vbYes" or "vbNo" once a button was pressed; emptied by who asks.
+  std::string state;
+
+  /// What its load does beyond its own values; none until the code is put in.
+  std::function<void()> onLoad;
+  void load() {
+    topmost = true;
+    if (onLoad) onLoad();
+  }
 
   /// The message dialog: shown without waiting for an answer. The subject is
   /// passed by every caller and shown nowhere.
   void showMessage(std::string_view heading, std::string_view text, std::string_view /*subject*/) {
+    load();
     caption = heading;
     Text1.setText(text);
     visible = true;

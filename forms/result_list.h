@@ -7,8 +7,8 @@
 #include <functional>
 #include <initializer_list>
 #include <memory>
-#include <string_view>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "forms/control.h"

@@ -23,5 +23,20 @@ inline constexpr std::string_view kStatisticsKey =
 inline constexpr std::string_view kWizardStatisticsKey =
     "software\\tavrwork\\Tavr Brightbox Deluxe\\wizard\\statics\\tracks";
 inline constexpr std::string_view kLookKey = "SOFTWARE\\tavrwork\\tavrwork brightbox";
+inline constexpr std::string_view kTimerKey = "software\\tavrwork\\Tavr Wipe\\timer";
+// Of the browser, under HKEY_CURRENT_USER.
+inline constexpr std::string_view kBrowserKey = "software\\microsoft\\internet explorer\\main\\";
+inline constexpr std::string_view kStartPage = "Start Page";
+inline constexpr std::string_view kWindowTitle = "window title";
+// Where earlier installations entered themselves; only cleared.
+inline constexpr std::string_view kRunKeyOfNt =
+    "Software\\Microsoft\\windows nt\\currentversion\\run";
+inline constexpr std::string_view kRunKey = "Software\\Microsoft\\windows\\currentversion\\run";
+inline constexpr std::string_view kRunValue = "Tavr Wipe";
+inline constexpr std::string_view kLanguageKey = "SOFTWARE\\tavrwork\\tavrwork brightbox\\tavrwipe";
+inline constexpr std::string_view kOptionKeyOfNote = "software\\tavrwork\\tavr wipe\\option\\";
+
+// "firsttime": whether the program has been started before.
+inline constexpr std::string_view kFirstTimeKey = "software\\tavrwork\\tavr wipe\\option";
 
 }  // namespace tavr::settings

@@ -133,9 +133,8 @@ struct MachineFolder::Parts {
   FolderDesktop desktop{faults};
   FolderParent parent{directory, ini.parent_window, faults};
 
-  Machine machine{registry,  wmi,    ini_files, files,  processes, url_cache, shell,
-                  event_log, parent, *clock,    locale, events,    dialogs,   environment,
-                  desktop};
+  Machine machine{registry, wmi,    ini_files, files,  processes, url_cache,   shell,  event_log,
+                  parent,   *clock, locale,    events, dialogs,   environment, desktop};
 
   static Faults faultsOf(const MachineIni& ini) {
     Faults faults;

@@ -42,9 +42,9 @@ class ForwardingFiles : public Files {
 
 /// The same machine with other files.
 inline Machine withFiles(const Machine& machine, Files& files) {
-  return {machine.registry,  machine.wmi,        machine.ini,    files,
-          machine.processes, machine.url_cache,  machine.shell,  machine.event_log,
-          machine.parent,    machine.clock,      machine.locale, machine.events,
+  return {machine.registry,  machine.wmi,         machine.ini,    files,
+          machine.processes, machine.url_cache,   machine.shell,  machine.event_log,
+          machine.parent,    machine.clock,       machine.locale, machine.events,
           machine.dialogs,   machine.environment, machine.desktop};
 }
 

@@ -216,7 +216,7 @@ TEST(MachineIni, EveryOperationOfTheUsersPageCanFail) {
                                       "ReportEvent",
                                       "CreateFileMapping",
                                       "MapViewOfFile",
-                                      "FindWindow"}) {
+                                      "FindWindow", "RegisterHotKey"}) {
     EXPECT_EQ(refusal("[fault]\n" + operation + "=1,5"), "");
   }
 }

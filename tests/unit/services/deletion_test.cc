@@ -128,7 +128,7 @@ TEST_F(DeletionTest, AFileOfTheRecycleBinIsDeletedWithoutAskingForItsRights) {
   Machine& real = machine.machine();
   Machine fake{real.registry,  real.wmi,    real.ini,       real.files,  real.processes,
                real.url_cache, real.shell,  real.event_log, real.parent, real.clock,
-               real.locale,    real.events, real.dialogs,   environment};
+               real.locale,    real.events, real.dialogs,   environment, real.desktop};
   Form1 own_form(fake);
   own_form.file_system_object.emplace();
   FileNumbers numbers(fake);

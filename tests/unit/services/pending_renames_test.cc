@@ -118,8 +118,8 @@ TEST_F(PendingRenamesTest, SavingMakesTheKeyAndWritesAMultiString) {
 TEST_F(PendingRenamesTest, SavingBindsCreatesWritesAndReadsBack) {
   RecordingWmi wmi;
   Machine& real = machine.machine();
-  Machine fake{real.registry,  wmi,         real.ini,       real.files,      real.processes,
-               real.url_cache, real.shell,  real.event_log, real.parent,     real.clock,
+  Machine fake{real.registry,  wmi,         real.ini,       real.files,       real.processes,
+               real.url_cache, real.shell,  real.event_log, real.parent,      real.clock,
                real.locale,    real.events, real.dialogs,   real.environment, real.desktop};
   Form1 own_form(fake);
   FileNumbers numbers(fake);

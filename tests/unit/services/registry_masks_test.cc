@@ -77,7 +77,8 @@ class RegistryMasksTest : public ::testing::Test {
       Machine& real = made.machine();
       machine_.emplace(Machine{recorder, real.wmi, real.ini, real.files, real.processes,
                                real.url_cache, real.shell, real.event_log, real.parent, real.clock,
-                               real.locale, real.events, real.dialogs, real.environment, real.desktop});
+                               real.locale, real.events, real.dialogs, real.environment,
+                               real.desktop});
     }
     return *machine_;
   }

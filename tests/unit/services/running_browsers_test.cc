@@ -118,8 +118,8 @@ TEST_F(RunningBrowsersTest, TheListAsksForEveryRightTheQueryOnlyForTheEnd) {
   RecordingProcesses processes;
   TwoProcesses wmi;
   Machine& real = machine.machine();
-  Machine fake{real.registry,  wmi,         real.ini,       real.files,      processes,
-               real.url_cache, real.shell,  real.event_log, real.parent,     real.clock,
+  Machine fake{real.registry,  wmi,         real.ini,       real.files,       processes,
+               real.url_cache, real.shell,  real.event_log, real.parent,      real.clock,
                real.locale,    real.events, real.dialogs,   real.environment, real.desktop};
   EXPECT_TRUE(fCloseByList(fake, "Chrome.exe"));
   using Opened = std::vector<std::pair<std::uint32_t, std::uint32_t>>;

@@ -1,0 +1,296 @@
+#include "config/form3_code.h"
+
+#include <string>
+
+#include "basic/number.h"
+#include "basic/resume_next.h"
+#include "basic/text.h"
+#include "basic/utf.h"
+#include "config/language.h"
+#include "config/look_color.h"
+#include "services/settings_keys.h"
+
+namespace tavr {
+
+namespace {
+
+constexpr int kHidden = 0;  // window style of a program
+
+constexpr int kAtShutdown = 1;
+constexpr int kSecureErasing = 3;
+constexpr int kAtStartUp = 4;
+constexpr int kStealth = 5;
+
+constexpr std::string_view kHelpFile = "\\tavrwork-helpdoc.chm>sec";
+constexpr std::uint32_t kHelpContext = 15;  // the command: open at a number
+constexpr std::uint32_t kHelpOfOptions = 23;
+
+// The form stands 200 twips below the middle of the screen, 15 to a pixel.
+constexpr int kBelowMiddle = 200 / 15;
+
+std::size_t at(int index) { return static_cast<std::size_t>(index); }
+
+void toggle(CheckBox& box) {
+  if (box.value() == 0) {
+    box.setValue(1);
+  } else if (box.value() == 1) {
+    box.setValue(0);
+  }
+}
+
+}  // namespace
+
+Form3Code::Form3Code(FormContext& context) : form(context.machine.events), context_(context) {
+  connectBoxes();
+  connectPanels();
+  connectSchedule();
+  connectSaving();
+}
+
+void Form3Code::connectBoxes() {
+  for (int i = 0; i < static_cast<int>(form.Check1.size()); ++i) {
+    form.Check1[at(i)].onClick = [this, i] { Check1_Click(i); };
+  }
+  for (int i = 0; i < static_cast<int>(form.Label2.size()); ++i) {
+    form.Label2[at(i)].onClick = [this, i] { Label2_Click(i); };
+  }
+  for (int i = 0; i < static_cast<int>(form.Label3.size()); ++i) {
+    form.Label3[at(i)].onClick = [this, i] { Label3_Click(i); };
+  }
+}
+
+void Form3Code::connectPanels() {
+  form.chameleonButton3.onClick = [this] { showPanel(form.Frame3); };
+  form.chameleonButton6.onClick = [this] { showPanel(form.Frame1); };
+  form.chameleonButton7.onClick = [this] { showPanel(form.Frame2); };
+  form.cmd_plugin.onClick = [this] { form.chameleonButton3.click(); };
+  form.chameleonButton8.onClick = [this] { form.chameleonButton7.click(); };
+  for (int i = 1; i < static_cast<int>(form.Toolbar1.size()); ++i) {
+    form.Toolbar1[at(i)].onClick = [this, i] { Toolbar1_ButtonClick(i); };
+  }
+  form.Timer1.onTick = [this] { Timer1_Timer(); };
+}
+
+void Form3Code::connectSchedule() {
+  for (OptionButton* option : form.options()) {
+    option->onSelect = [this, option] {
+      for (OptionButton* other : form.options()) {
+        if (other != option) other->setValue(false);
+      }
+    };
+  }
+  for (std::size_t i = 0; i < form.intervals().size(); ++i) {
+    Form3::CaretBox* const box = form.intervals().at(i);
+    ScrollBar* const bar = form.scrollBars().at(i);
+    box->onChange = [box] { box->caret = utf16Length(box->text()); };
+    bar->onChange = [box, bar] { box->setText(numberText(bar->value())); };
+  }
+}
+
+void Form3Code::connectSaving() {
+  form.chameleonButton1.onClick = [this] {
+    form.Text10.setText("about:blank");
+    form.Text20.setText("");
+  };
+  form.chameleonButton2.onClick = [this] { chameleonButton2_Click(); };
+  form.chameleonButton4.onClick = [this] { chameleonButton4_Click(); };
+  form.chameleonButton5.onClick = [this] { chameleonButton5_Click(); };
+  form.chameleonButton9.onClick = [this] { chameleonButton9_Click(); };
+  form.chameleonButton19.onClick = [this] { form.chameleonButton4.click(); };
+  form.chameleonButton32.onClick = [this] { chameleonButton32_Click(); };
+}
+
+void Form3Code::Form_Load() {
+  takeLook();
+  readStartPage();
+  ResumeNext on;
+  for (int i = 0; i < static_cast<int>(form.Check1.size()); ++i) {
+    on.next([&] { readBox(i); });
+  }
+  readSchedule();
+  fillCombos();
+  form.Image1.file = "ImageList1(1)";
+  form.Timer1.setEnabled(true);
+}
+
+void Form3Code::takeLook() {
+  ResumeNext on;
+  on.next([&] {
+    const std::int32_t color = lookColor(context_.machine);
+    form.back_color = color;
+    form.chameleonButton32.color = color;
+    form.chameleonButton32.hover_color = color;
+  });
+  context_.language.apply(form);
+  form.topmost = true;
+  const ScreenSize screen = context_.machine.desktop.screen();
+  form.left = (screen.width - form.width) / 2;
+  form.top = (screen.height - form.height) / 2 + kBelowMiddle;
+}
+
+void Form3Code::readStartPage() {
+  const RegistryLayer& registry = context_.registry;
+  std::string text;
+  registry.fGetString(Root::kCurrentUser, settings::kBrowserKey, settings::kStartPage, text);
+  form.Text10.setText(text);
+  text.clear();
+  registry.fGetString(Root::kCurrentUser, settings::kBrowserKey, settings::kWindowTitle, text);
+  form.Text20.setText(text);
+}
+
+// A text that is no number, and a number that no box can have, leave the box as
+// it is. A stored 1 or 2 turns the box, whose click stores the value again.
+void Form3Code::readBox(int index) {
+  const int value = toInteger(context_.registry.setting(settings::kOptionsKey, numberText(index)));
+  if (value < 0 || value > 2) return;
+  form.Check1[at(index)].setValue(value);
+}
+
+void Form3Code::readSchedule() {
+  const double kind = Val(context_.registry.setting(settings::kTimerKey, "option"));
+  const std::string value = context_.registry.setting(settings::kTimerKey, "value");
+  for (std::size_t i = 0; i < form.options().size(); ++i) {
+    if (kind != static_cast<double>(i + 1)) continue;
+    form.options().at(i)->setValue(true);
+    if (i < form.intervals().size()) form.intervals().at(i)->setText(numberText(Val(value)));
+  }
+}
+
+// A combo box takes any text: one that is not stored leaves it empty.
+void Form3Code::fillCombos() {
+  for (int passes = 1; passes <= 10; ++passes) form.Combo1.items.push_back(numberText(passes));
+  form.Combo1.setText(form.Combo1.items.front());
+  form.Combo1.setText(context_.registry.setting(settings::kMainKey, "secure_value"));
+  for (char letter = 'A'; letter <= 'Z'; ++letter) form.Combo2.items.emplace_back(1, letter);
+  form.Combo2.setText(form.Combo2.items.front());
+  form.Combo2.setText(context_.registry.setting(settings::kMainKey, "key"));
+}
+
+void Form3Code::Check1_Click(int index) {
+  const int value = form.Check1[at(index)].value();
+  context_.registry.saveSetting(settings::kOptionsKey, numberText(index), numberText(value));
+  if (index == kAtStartUp && value != 2) setLogOnTask(value == 1);
+}
+
+// Without a force switch a task that is there already stays as it is; the
+// answer of neither is looked at.
+void Form3Code::setLogOnTask(bool on) {
+  Machine& machine = context_.machine;
+  const std::string command =
+      on ? "schtasks /create /SC ONLOGON /rl highest /tn \"Tavrwork Spoorwipe\" /tr \"'" +
+               machine.environment.appPath() + "\\tavrwipe.exe s'\""
+         : "schtasks /Delete /TN \"Tavrwork Spoorwipe\" /F";
+  machine.shell.run(command, kHidden);
+}
+
+void Form3Code::Label2_Click(int index) {
+  if (index == 16) toggle(form.Check1[kStealth]);
+  if (index == 18) toggle(form.Check1[kSecureErasing]);
+}
+
+void Form3Code::Label3_Click(int index) {
+  if (index == 1) toggle(form.Check1[kAtShutdown]);
+  if (index == 2) toggle(form.Check1[kAtStartUp]);
+}
+
+void Form3Code::Toolbar1_ButtonClick(int index) {
+  if (index == 1) form.chameleonButton3.click();
+  if (index == 2) form.chameleonButton6.click();
+  if (index == 3) form.chameleonButton7.click();
+  if (index == 5) openHelp();
+  if (index == 6) form.chameleonButton4.click();
+}
+
+void Form3Code::openHelp() {
+  context_.machine.shell.htmlHelp(context_.machine.environment.appPath() + std::string(kHelpFile),
+                                  kHelpContext, kHelpOfOptions);
+}
+
+void Form3Code::showPanel(Frame& shown) {
+  for (Frame* panel : {&form.Frame1, &form.Frame2, &form.Frame3}) panel->visible = panel == &shown;
+  shown.box.left = form.Frame3.box.left;
+  shown.box.top = form.Frame3.box.top;
+}
+
+void Form3Code::chameleonButton2_Click() {
+  const RegistryLayer& registry = context_.registry;
+  const std::string_view page = Trim(form.Text10.text());
+  const std::string_view title = Trim(form.Text20.text());
+  registry.fSaveString(Root::kCurrentUser, settings::kBrowserKey, settings::kStartPage, page);
+  registry.fSaveString(Root::kCurrentUser, settings::kBrowserKey, settings::kWindowTitle, title);
+  registry.saveSetting(settings::kMainKey, "homepage", page);
+  registry.saveSetting(settings::kMainKey, "titlepage", title);
+}
+
+void Form3Code::chameleonButton9_Click() {
+  const RegistryLayer& registry = context_.registry;
+  registry.saveSetting(settings::kMainKey, "secure_value", Trim(form.Combo1.text()));
+  registry.saveSetting(settings::kMainKey, "key", Trim(form.Combo2.text()));
+}
+
+void Form3Code::pressSaveButtons() {
+  form.chameleonButton9.click();
+  form.chameleonButton2.click();
+  form.chameleonButton5.click();
+}
+
+void Form3Code::chameleonButton4_Click() {
+  pressSaveButtons();
+  context_.host.unload(form.name());
+}
+
+void Form3Code::chameleonButton32_Click() {
+  pressSaveButtons();
+  form.shadow = false;
+  context_.host.detachShadow(form.name());
+  context_.host.unload(form.name());
+}
+
+void Form3Code::Timer1_Timer() { form.shadow = true; }
+
+ScheduleKind Form3Code::selectedKind() const {
+  const OptionButton* const options[] = {&form.Option1, &form.Option2, &form.Option3, &form.Option4,
+                                         &form.Option5};
+  for (std::size_t i = 0; i < std::size(options); ++i) {
+    if (options[i]->value()) return static_cast<ScheduleKind>(i + 1);
+  }
+  return ScheduleKind::kNone;
+}
+
+std::string Form3Code::selectedInterval(ScheduleKind kind) {
+  if (kind == ScheduleKind::kNone) return "";
+  return form.intervals().at(static_cast<std::size_t>(kind) - 1)->text();
+}
+
+void Form3Code::chameleonButton5_Click() {
+  const RegistryLayer& registry = context_.registry;
+  Locale& locale = context_.machine.locale;
+  const LocalTime now = context_.machine.clock.now();
+  const ScheduleKind kind = selectedKind();
+  SavedSchedule saved = savedSchedule(locale, now, kind, selectedInterval(kind));
+  registry.fDeleteValue("HKLM", settings::kRunKeyOfNt, settings::kRunValue);
+  registry.fDeleteValue("HKLM", settings::kRunKey, settings::kRunValue);
+  if (form.Check1[kAtStartUp].value() == 1) {
+    saveTimer("winstart", "1");
+    saved.option = numberText(static_cast<int>(ScheduleKind::kWindowsStart));
+    saved.value = "0";
+  } else if (form.Check1[kAtStartUp].value() == 0) {
+    saveTimer("winstart", "0");
+  }
+  saveTimer("startdate", locale.shortDate(now));
+  saveTimer("starttime", locale.longTime(now));
+  saveTimer("option", saved.option);
+  saveTimer("value", saved.value);
+  saveTimer("min", numberText(now.minute));
+  saveTimer("hour", numberText(now.hour));
+  saveTimer("nextmin", saved.nextmin);
+  for (const std::string_view name : {"nexthoure", "nextday", "nextweek", "nextmnth"}) {
+    saveTimer(name, saved.slot);
+  }
+}
+
+void Form3Code::saveTimer(std::string_view name, std::string_view text) {
+  context_.registry.saveSetting(settings::kTimerKey, name, text);
+}
+
+}  // namespace tavr

@@ -1,0 +1,104 @@
+// The command button of every form: its properties, and what it makes of the
+// mouse and the keys. It draws nothing: it asks for a state to be drawn, and a
+// view decides how its style looks.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/controls.h"
+
+namespace tavr {
+
+enum class MouseButton : std::uint8_t { kLeft = 1, kRight = 2, kMiddle = 4 };
+
+/// The keys that the button answers to.
+enum class ButtonKey : std::uint8_t { kSpace, kLeft, kUp, kRight, kDown };
+
+/// Stored properties: key and text.
+using PropertyBag = std::map<std::string, std::string, std::less<>>;
+
+class ChameleonButton : public Button {
+ public:
+  static constexpr std::string_view kVersion = "2.0.6";
+  static constexpr std::uint32_t kOverTimerInterval = 50;  ///< ms
+  static constexpr int kNormal = 0;                        ///< states to draw
+  static constexpr int kPressed = 2;
+
+  enum class State : std::uint8_t { kNormal, kOver, kPressed };
+
+  explicit ChameleonButton(Events& events);
+
+  std::int32_t color = 0;             ///< BackColor; of the colour scheme until set
+  std::int32_t hover_color = 0;       ///< BackOver
+  std::int32_t text_color = 0;        ///< ForeColor
+  std::int32_t hover_text_color = 0;  ///< ForeOver
+  std::int32_t mask_color = 0xC0C0C0;
+  int button_type = 0;  ///< 1 to 9 and 11 to 14; any other: the plain look
+  int color_scheme = 1;
+  bool show_focus_rect = true;
+  int mouse_pointer = 0;
+  std::string mouse_icon;
+  bool hand_pointer = false;
+  bool soft_bevel = false;
+  std::string picture_normal;
+  std::string picture_over;
+  int picture_position = 0;
+  bool use_mask_color = true;
+  bool use_greyscale = false;
+  int special_effect = 0;
+  bool check_box_behaviour = false;
+  bool value = false;
+
+  void writeProperties(PropertyBag& bag) const;
+  /// A key that is missing takes the value of a fresh button.
+  void readProperties(const PropertyBag& bag);
+  /// Sets a property by its key and tells of the change; unknown keys are
+  /// ignored. The notice of PictureOver goes by another key than the bag's.
+  void setProperty(std::string_view key, std::string_view text);
+  std::function<void(std::string_view key)> onPropertyChange;
+
+  // What a view passes on.
+  void mouseMove(bool any_button_down = false);
+  void mouseDown(MouseButton button);
+  /// The handlers see the click after MouseUp.
+  void mouseUp(MouseButton button);
+  void keyDown(ButtonKey key);
+  void keyUp(ButtonKey key);
+  /// Whether the pointer stands over it, as OverTimer finds it.
+  bool pointer_inside = false;
+
+  std::function<void(MouseButton button)> onMouseDown;
+  std::function<void(MouseButton button)> onMouseUp;
+  /// Keys that move the focus ("{Tab}", "+{Tab}").
+  std::function<void(std::string_view keys)> onSendKeys;
+
+  /// Asks a view to draw a state. While the refresh is disabled nothing is
+  /// asked for; Refresh draws the present state and enables it again.
+  std::function<void(int state)> onDraw;
+  void DisableRefresh() { refresh_ = false; }
+  void Refresh();
+
+  State state() const { return state_; }
+  /// The state that was asked for last, -1 before the first.
+  int drawn() const { return drawn_; }
+
+  FormTimer OverTimer;
+
+ private:
+  void draw(int state);
+  void leaveWhenOutside();
+
+  Events& events_;
+  State state_ = State::kNormal;
+  State before_press_ = State::kNormal;
+  MouseButton down_button_ = MouseButton::kLeft;
+  bool refresh_ = true;
+  int drawn_ = -1;
+};
+
+}  // namespace tavr

@@ -1,0 +1,34 @@
+#include "forms/frmabout.h"
+
+namespace tavr {
+
+namespace {
+
+using enum ControlKind;
+
+constexpr ControlDesign kDesign[] = {
+    {"Label222", 1, kLabel, "", {16, 8, 388, 24}, -1, "About"},
+    {"Label1", -1, kLabel, "", {16, 48, 388, 28}, -1, "Spoorwipe"},
+    {"Label3", -1, kLabel, "", {16, 80, 388, 22}, -1, ""},
+    {"Label2", 3, kLabel, "", {16, 120, 300, 22}, 0, "Visit our web site"},
+    {"Label2", 2, kLabel, "", {16, 146, 300, 22}, 1, "Download plug-ins"},
+    {"Label2", 1, kLabel, "", {16, 172, 300, 22}, 2, "Contact support"},
+    {"Label2", 0, kLabel, "", {16, 198, 300, 22}, 3, "Translate the program"},
+    {"chameleonButton1", -1, kButton, "", {300, 236, 104, 36}, 4, "OK"},
+};
+
+}  // namespace
+
+std::span<const ControlDesign> frmaboutDesign() { return kDesign; }
+
+frmabout::frmabout() : Form("frmabout", "About", 420, 288) {
+  place(kDesign, "Label222", 1, Label222);
+  place(kDesign, "Label1", -1, Label1);
+  place(kDesign, "Label3", -1, Label3);
+  for (int index = 3; index >= 0; --index) {
+    place(kDesign, "Label2", index, Label2[static_cast<std::size_t>(index)]);
+  }
+  place(kDesign, "chameleonButton1", -1, chameleonButton1);
+}
+
+}  // namespace tavr

@@ -1,0 +1,126 @@
+// Dates as the settings hold them: the locale's short form, and back.
+#include "config/dates.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <string>
+
+#include "basic/resume_next.h"
+#include "platform/folder/virtual_clock.h"
+
+namespace tavr {
+namespace {
+
+// Day, month and year with points, hours to 24.
+class GermanLocale : public Locale {
+ public:
+  std::string shortDate(const LocalTime& time) override {
+    char text[48];
+    std::snprintf(text, sizeof text, "%02d.%02d.%04d", time.day, time.month, time.year);
+    return text;
+  }
+  std::string longTime(const LocalTime& time) override {
+    char text[48];
+    std::snprintf(text, sizeof text, "%02d:%02d:%02d", time.hour, time.minute, time.second);
+    return text;
+  }
+  char decimalSign() override { return ','; }
+};
+
+class Dates : public ::testing::Test {
+ protected:
+  int errorOf(std::string_view text) {
+    try {
+      toDate(english, text);
+      return 0;
+    } catch (const RuntimeError& error) {
+      return error.number;
+    }
+  }
+  DateNumber day(int year, int month, int date) { return dateOf({year, month, date, 13, 14, 15}); }
+
+  folder::EnglishLocale english;
+  GermanLocale german;
+};
+
+TEST_F(Dates, CountFromTheThirtiethOfDecember1899) {
+  EXPECT_EQ(day(1899, 12, 30), 0);
+  EXPECT_EQ(day(1900, 1, 1), 2);
+  EXPECT_EQ(day(2026, 11, 20), 46346);
+  EXPECT_EQ(day(1899, 12, 29), -1);
+}
+
+TEST_F(Dates, AreWrittenInTheShortForm) {
+  EXPECT_EQ(dateText(english, day(2026, 11, 20)), "11/20/2026");
+  EXPECT_EQ(dateText(english, day(2027, 1, 2)), "1/2/2027");
+  EXPECT_EQ(dateText(german, day(2027, 1, 2)), "02.01.2027");
+}
+
+TEST_F(Dates, WithATimeOfDayCarryTheLongForm) {
+  EXPECT_EQ(dateText(english, day(2026, 11, 20) + 0.5), "11/20/2026 12:00:00 PM");
+  EXPECT_EQ(dateText(german, day(2026, 11, 20) + 0.75), "20.11.2026 18:00:00");
+}
+
+TEST_F(Dates, AreReadBackFromTheShortForm) {
+  EXPECT_EQ(toDate(english, "11/20/2026"), day(2026, 11, 20));
+  EXPECT_EQ(toDate(english, " 1/2/2027 "), day(2027, 1, 2));
+  EXPECT_EQ(toDate(english, "2/29/2028"), day(2028, 2, 29));
+  EXPECT_EQ(toDate(german, "02.01.2027"), day(2027, 1, 2));
+  EXPECT_EQ(toDate(english, "11/20/2026 12:00:00 PM"), day(2026, 11, 20) + 0.5);
+  EXPECT_EQ(toDate(english, "11/20/2026 12:00:00 AM"), day(2026, 11, 20));
+  EXPECT_EQ(toDate(german, "20.11.2026 18:00:00"), day(2026, 11, 20) + 0.75);
+}
+
+TEST_F(Dates, OfAShortYearLieBetween1930And2029) {
+  EXPECT_EQ(toDate(english, "1/2/29"), day(2029, 1, 2));
+  EXPECT_EQ(toDate(english, "1/2/30"), day(1930, 1, 2));
+}
+
+TEST_F(Dates, RaiseATypeMismatchForAnyOtherText) {
+  for (const char* text : {"",
+                           " ",
+                           "25",
+                           "13",
+                           "abc",
+                           "2/30/2026",
+                           "13/1/2026",
+                           "0/1/2026",
+                           "1/0/2026",
+                           "1/2",
+                           "1/2/3/4",
+                           "11/20/2026x",
+                           "/11/20/2026",
+                           "11/20/",
+                           "11/20/20261",
+                           "11/20/2026 noon",
+                           "11/20/2026 25:00",
+                           "11/20/2026 0:00:00 AM",
+                           "11/20/2026 13:00:00 PM",
+                           "11/20/2026 1.5"}) {
+    EXPECT_EQ(errorOf(text), kErrTypeMismatch) << text;
+  }
+}
+
+TEST_F(Dates, EveryDayOfFiveYearsComesBack) {
+  for (DateNumber date = day(2024, 1, 1); date < day(2029, 1, 1); ++date) {
+    ASSERT_EQ(toDate(english, dateText(english, date)), date);
+    ASSERT_EQ(toDate(german, dateText(german, date)), date);
+  }
+}
+
+TEST_F(Dates, MoveByDays) {
+  EXPECT_EQ(dateText(english, addDays(day(2026, 11, 20), 14)), "12/4/2026");
+  EXPECT_EQ(dateText(english, addDays(day(2028, 2, 28), 1)), "2/29/2028");
+  EXPECT_EQ(dateText(english, addDays(day(2026, 1, 1), -1)), "12/31/2025");
+}
+
+TEST_F(Dates, EndWithTheYear9999) {
+  EXPECT_EQ(dateText(english, addDays(day(9999, 12, 30), 1)), "12/31/9999");
+  EXPECT_THROW(addDays(day(9999, 12, 31), 1), RuntimeError);
+  EXPECT_THROW(addDays(day(2026, 11, 20), 1e300), RuntimeError);
+  EXPECT_THROW(addDays(day(2026, 11, 20), -1e300), RuntimeError);
+}
+
+}  // namespace
+}  // namespace tavr

@@ -1,0 +1,173 @@
+#include "forms/chameleon_button.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/support/test_machine.h"
+
+namespace tavr {
+namespace {
+
+using State = ChameleonButton::State;
+using Drawn = std::vector<int>;
+
+class ChameleonButtonTest : public ::testing::Test {
+ protected:
+  ChameleonButtonTest() {
+    button.onDraw = [this](int state) { drawn.push_back(state); };
+    button.onMouseDown = [this](MouseButton) { ++downs; };
+    button.onMouseUp = [this](MouseButton) { ++ups; };
+    button.onMouseMove = [this] { ++moves; };
+    button.onClick = [this] { ++clicks; };
+    button.onSendKeys = [this](std::string_view text) { keys += text; };
+  }
+
+  testing::TestMachine machine;
+  ChameleonButton button{machine.machine().events};
+  Drawn drawn;
+  int downs = 0;
+  int ups = 0;
+  int moves = 0;
+  int clicks = 0;
+  std::string keys;
+};
+
+TEST_F(ChameleonButtonTest, TheMouseOverItStartsTheTimerAndDrawsTheRestingState) {
+  button.mouseMove();
+  EXPECT_EQ(button.state(), State::kOver);
+  EXPECT_TRUE(button.OverTimer.enabled());
+  EXPECT_EQ(drawn, Drawn{0});
+  button.mouseMove();
+  EXPECT_EQ(drawn, Drawn{0});
+  EXPECT_EQ(moves, 2);
+}
+
+TEST_F(ChameleonButtonTest, WithAButtonDownTheMouseDoesNotEnterIt) {
+  button.mouseMove(true);
+  EXPECT_EQ(button.state(), State::kNormal);
+  EXPECT_FALSE(button.OverTimer.enabled());
+  EXPECT_EQ(drawn, Drawn{});
+  EXPECT_EQ(moves, 1);
+}
+
+TEST_F(ChameleonButtonTest, AMouseThatLeftIsNoticedByTheNextTick) {
+  button.mouseMove();
+  machine.machine().events.wait(10 * ChameleonButton::kOverTimerInterval);
+  EXPECT_EQ(button.state(), State::kOver);
+  button.pointer_inside = false;
+  machine.machine().events.wait(ChameleonButton::kOverTimerInterval + 1);
+  EXPECT_EQ(button.state(), State::kNormal);
+  EXPECT_FALSE(button.OverTimer.enabled());
+  EXPECT_EQ(drawn, (Drawn{0, 0}));
+}
+
+TEST_F(ChameleonButtonTest, PressAndReleaseReturnToTheStateBefore) {
+  button.mouseMove();
+  button.mouseDown(MouseButton::kLeft);
+  EXPECT_EQ(button.state(), State::kPressed);
+  button.mouseUp(MouseButton::kLeft);
+  EXPECT_EQ(button.state(), State::kOver);
+  EXPECT_EQ(drawn, (Drawn{0, 2, 0}));
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(ChameleonButtonTest, APressFromNormalReturnsToNormal) {
+  button.mouseDown(MouseButton::kMiddle);
+  button.mouseUp(MouseButton::kMiddle);
+  EXPECT_EQ(button.state(), State::kNormal);
+  EXPECT_EQ(drawn, (Drawn{2, 0}));
+}
+
+TEST_F(ChameleonButtonTest, ARightClickRaisesTheEventsAndLeavesTheDrawingAlone) {
+  button.mouseDown(MouseButton::kRight);
+  button.mouseUp(MouseButton::kRight);
+  EXPECT_EQ(downs, 1);
+  EXPECT_EQ(ups, 1);
+  EXPECT_EQ(clicks, 0);
+  EXPECT_EQ(drawn, Drawn{});
+  EXPECT_EQ(button.state(), State::kNormal);
+}
+
+TEST_F(ChameleonButtonTest, TheSpaceKeyPressesIt) {
+  button.keyDown(ButtonKey::kSpace);
+  EXPECT_EQ(button.state(), State::kPressed);
+  button.keyUp(ButtonKey::kSpace);
+  EXPECT_EQ(button.state(), State::kNormal);
+  EXPECT_EQ(drawn, (Drawn{2, 0}));
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(ChameleonButtonTest, ArrowsMoveTheFocusAsTabDoes) {
+  button.keyDown(ButtonKey::kLeft);
+  button.keyDown(ButtonKey::kUp);
+  EXPECT_EQ(keys, "+{Tab}+{Tab}");
+  keys.clear();
+  button.keyDown(ButtonKey::kRight);
+  button.keyDown(ButtonKey::kDown);
+  EXPECT_EQ(keys, "{Tab}{Tab}");
+  EXPECT_EQ(drawn, Drawn{});
+}
+
+TEST_F(ChameleonButtonTest, ADisabledButtonDoesNotClick) {
+  button.enabled = false;
+  button.mouseDown(MouseButton::kLeft);
+  button.mouseUp(MouseButton::kLeft);
+  EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(ChameleonButtonTest, WithTheRefreshDisabledNothingIsDrawnUntilRefresh) {
+  button.DisableRefresh();
+  button.mouseDown(MouseButton::kLeft);
+  EXPECT_EQ(drawn, Drawn{});
+  button.Refresh();
+  EXPECT_EQ(drawn, Drawn{2});
+}
+
+TEST_F(ChameleonButtonTest, AFreshButtonHasTheDefaultsInItsBag) {
+  PropertyBag bag;
+  button.writeProperties(bag);
+  EXPECT_EQ(bag.size(), 23u);
+  EXPECT_EQ(bag["MCOL"], std::to_string(0xC0C0C0));
+  EXPECT_EQ(bag["TX"], "");
+  EXPECT_EQ(bag["COLTYPE"], "1");
+  for (const char* on : {"ENAB", "FOCUSR", "UMCOL"}) EXPECT_EQ(bag[on], "True") << on;
+  for (const char* off : {"HAND", "SOFT", "NGREY", "CHECK", "VALUE"}) {
+    EXPECT_EQ(bag[off], "False") << off;
+  }
+  for (const char* zero : {"MPTR", "PICPOS", "FX"}) EXPECT_EQ(bag[zero], "0") << zero;
+  for (const char* none : {"MICON", "PICN", "PICH"}) EXPECT_EQ(bag[none], "") << none;
+  EXPECT_EQ(ChameleonButton::kVersion, "2.0.6");
+}
+
+TEST_F(ChameleonButtonTest, ReadsBackWhatItWroteAndDefaultsForTheRest) {
+  button.caption = "Erase";
+  button.button_type = 12;
+  button.soft_bevel = true;
+  button.hover_color = 255;
+  PropertyBag bag;
+  button.writeProperties(bag);
+  bag.erase("FX");
+  ChameleonButton other(machine.machine().events);
+  other.special_effect = 3;
+  other.readProperties(bag);
+  EXPECT_EQ(other.caption, "Erase");
+  EXPECT_EQ(other.button_type, 12);
+  EXPECT_TRUE(other.soft_bevel);
+  EXPECT_EQ(other.hover_color, 255);
+  EXPECT_EQ(other.special_effect, 0);
+}
+
+TEST_F(ChameleonButtonTest, TheNoticeOfTheHoverPictureGoesByItsOwnKey) {
+  std::string notices;
+  button.onPropertyChange = [&](std::string_view key) { notices += std::string(key) + " "; };
+  button.setProperty("PICH", "over.png");
+  button.setProperty("PICN", "normal.png");
+  button.setProperty("PICO", "nothing");
+  EXPECT_EQ(button.picture_over, "over.png");
+  EXPECT_EQ(notices, "PICO PICN ");
+}
+
+}  // namespace
+}  // namespace tavr
