@@ -67,7 +67,7 @@ class PlayTest : public ::testing::Test {
 TEST_F(PlayTest, ActsOnControlsByTheirNames) {
   int clicks = 0;
   form.button.onClick = [&] { ++clicks; };
-  EXPECT_EQ(played("click Small.go\nclick small.GO\ncheck Small.Check1(52)\n"
+  EXPECT_EQ(played("click Small.go\nclick Small.GO\ncheck Small.Check1(52)\n"
                    "type Small.Text1 a text\nexpect Small.Text1 a text\n"
                    "expect Small.Check1(52) 1\nexpect Small.go Go\n"),
             PlayResult::kDone);
