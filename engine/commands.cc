@@ -114,7 +114,7 @@ void connectToolbar(Program& program) {
 // The menu closes before its entry acts. "a9" is shown and does nothing.
 void connectMenu(Program& program) {
   Form1& form = program.form;
-  const auto entry = [&form](std::size_t number, std::function<void()> action) {
+  const auto entry = [&form](std::size_t number, const std::function<void()>& action) {
     form.menu[number].onClick = [&form, action] {
       form.bccc.visible = false;
       if (action) action();

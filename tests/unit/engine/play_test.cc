@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include <cstdio>
 #include <memory>
 
 #include "basic/resume_next.h"
@@ -46,13 +46,11 @@ class PlayTest : public ::testing::Test {
     actions.minimise = [this] { said += "minimise "; };
     actions.close = [this] { said += "close "; };
     actions.choose = [this](std::string_view file) { said += file; };
-    char* text_out = nullptr;
-    std::size_t size = 0;
-    std::FILE* const out = open_memstream(&text_out, &size);
-    const PlayResult result = play(script, actions, out, message);
-    std::fclose(out);
-    printed.assign(text_out, size);
-    std::free(text_out);
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> out(std::tmpfile(), std::fclose);
+    const PlayResult result = play(script, actions, out.get(), message);
+    printed.resize(static_cast<std::size_t>(std::ftell(out.get())));
+    std::rewind(out.get());
+    EXPECT_EQ(std::fread(printed.data(), 1, printed.size(), out.get()), printed.size());
     return result;
   }
 
