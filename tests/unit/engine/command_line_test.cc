@@ -111,9 +111,15 @@ TEST_P(CommandLine, SetsTheModeFields) {
   TestMachine machine;
   Form_Initialize(machine.program(), GetParam().arguments);
   const Form1& form = machine.program().form;
-  const Modes found = {form.hasArguments, form.unattended,    form.resultMode,
-                       form.parentMode,   form.hideOnLoad,    form.visible,
-                       (form.window_state == WindowState::kMinimised),    form.Text11.text(), form.dialog_mode};
+  const Modes found = {form.hasArguments,
+                       form.unattended,
+                       form.resultMode,
+                       form.parentMode,
+                       form.hideOnLoad,
+                       form.visible,
+                       (form.window_state == WindowState::kMinimised),
+                       form.Text11.text(),
+                       form.dialog_mode};
   EXPECT_EQ(found, GetParam().modes);
 }
 
