@@ -216,7 +216,8 @@ TEST(MachineIni, EveryOperationOfTheUsersPageCanFail) {
                                       "ReportEvent",
                                       "CreateFileMapping",
                                       "MapViewOfFile",
-                                      "FindWindow", "RegisterHotKey"}) {
+                                      "FindWindow",
+                                      "RegisterHotKey"}) {
     EXPECT_EQ(refusal("[fault]\n" + operation + "=1,5"), "");
   }
 }
