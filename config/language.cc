@@ -20,7 +20,8 @@ std::string contentsOf(Machine& machine, std::string_view path) {
   std::string contents;
   const OpenedFile opened = machine.files.open(path, OpenMode::kInput);
   if (opened.status != kSuccess) return contents;
-  if (opened.file->read(0, opened.file->length(), contents) != kSuccess) contents.clear();
+  if (opened.file->read(0, static_cast<std::size_t>(opened.file->length()), contents) != kSuccess)
+    contents.clear();
   return contents;
 }
 
