@@ -6,6 +6,7 @@
 #include "basic/number.h"
 #include "basic/resume_next.h"
 #include "basic/text.h"
+#include "config/look_color.h"
 #include "engine/runs.h"
 #include "engine/task_table.h"
 #include "engine/window.h"
@@ -23,20 +24,13 @@ const std::string& element(const std::vector<std::string>& words, std::size_t in
   return words[index];
 }
 
-constexpr std::int32_t kDefaultColor = 10118205;
-
 // The configured colour of the title strip; a text that is no number leaves the
 // colours of the design.
 void colorTitleStrip(Program& program) {
   ResumeNext on;
   Form1& form = program.form;
-  std::string text;
-  if (const auto provider = program.machine.wmi.bindRegistryProvider(kRegistryProviderMoniker)) {
-    provider->getExpandedStringValue(static_cast<std::uint32_t>(Root::kLocalMachine),
-                                     settings::kLookKey, "color", text);
-  }
   on.next([&] {
-    const std::int32_t color = Trim(text).empty() ? kDefaultColor : toLong(text);
+    const std::int32_t color = lookColor(program.machine);
     form.strip_color = color;
     for (StripButton* button : {&form.chameleonButton9, &form.chameleonButton10,
                                 &form.chameleonButton12, &form.chameleonButton13}) {
