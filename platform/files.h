@@ -18,6 +18,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/security.h"
 #include "platform/win_error.h"
 
 namespace tavr {
@@ -126,6 +127,14 @@ class Files {
   /// The names of the folders in a folder, in the machine's order. 3: no such
   /// folder.
   virtual Status subfolders(std::string_view folder, std::vector<std::string>& names) = 0;
+
+  /// GetFileSecurity of the access list of a file or folder. 2, 3: missing;
+  /// 5: it may not be read; 50: this machine's files have no lists.
+  virtual Status security(std::string_view path, SecurityDescriptor& out) = 0;
+
+  /// SetFileSecurity of the access list. Errors as of security(); 5: it may not
+  /// be changed.
+  virtual Status setSecurity(std::string_view path, const SecurityDescriptor& descriptor) = 0;
 };
 
 }  // namespace tavr

@@ -15,6 +15,7 @@
 #include "platform/parent_link.h"
 #include "platform/processes.h"
 #include "platform/registry.h"
+#include "platform/security.h"
 #include "platform/shell.h"
 #include "platform/url_cache.h"
 #include "platform/wmi.h"
@@ -37,6 +38,7 @@ struct Machine {
   Dialogs& dialogs;
   Environment& environment;
   Desktop& desktop;
+  Accounts& accounts;
 };
 
 }  // namespace tavr

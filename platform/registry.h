@@ -19,6 +19,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/security.h"
 #include "platform/win_error.h"
 
 namespace tavr {
@@ -81,6 +82,14 @@ class RegistryKey {
   /// RegDeleteKey on a subkey path, in the view of the handle. The key's values
   /// go with it. 2: no such key; 5: it has subkeys.
   virtual Status deleteKey(std::string_view subkey) = 0;
+
+  /// RegGetKeySecurity of the access list. 5: opened without READ_CONTROL
+  /// (0x20000); 50: this machine's keys have no lists.
+  virtual Status security(SecurityDescriptor& out) = 0;
+
+  /// RegSetKeySecurity of the access list. 5: opened without WRITE_DAC (0x40000);
+  /// 50: this machine's keys have no lists.
+  virtual Status setSecurity(const SecurityDescriptor& descriptor) = 0;
 };
 
 struct OpenedKey {

@@ -25,5 +25,6 @@ inline constexpr Status kMoreData = 234;
 inline constexpr Status kNoMoreItems = 259;
 inline constexpr Status kDirectory = 267;
 inline constexpr Status kKeyDeleted = 1018;
+inline constexpr Status kNoneMapped = 1332;
 
 }  // namespace tavr

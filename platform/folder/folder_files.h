@@ -38,6 +38,12 @@ class FolderFiles : public Files {
   bool canOpen(std::string_view path) override;
   Status setCurrentDirectory(std::string_view path) override;
   Status subfolders(std::string_view folder, std::vector<std::string>& names) override;
+  Status security(std::string_view /*path*/, SecurityDescriptor& /*out*/) override {
+    return kNotSupported;
+  }
+  Status setSecurity(std::string_view /*path*/, const SecurityDescriptor& /*descriptor*/) override {
+    return kNotSupported;
+  }
 
  private:
   struct Search;

@@ -107,6 +107,9 @@ class FolderRegistry::Key final : public RegistryKey {
     return deleteAt(tree_, resolvePath(root_, path, access_));
   }
 
+  Status security(SecurityDescriptor& /*out*/) override { return kNotSupported; }
+  Status setSecurity(const SecurityDescriptor& /*descriptor*/) override { return kNotSupported; }
+
  private:
   Status ready(Faults::Point& point, std::uint32_t right) const {
     if (const Status fault = point.hit()) return fault;

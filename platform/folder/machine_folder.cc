@@ -13,6 +13,7 @@
 
 #include "platform/folder/faults.h"
 #include "platform/folder/file_descriptor.h"
+#include "platform/folder/folder_accounts.h"
 #include "platform/folder/folder_desktop.h"
 #include "platform/folder/folder_dialogs.h"
 #include "platform/folder/folder_environment.h"
@@ -131,10 +132,11 @@ struct MachineFolder::Parts {
   FolderShell shell{directory, ini.cookies, recycle_bin, system_files, environment, faults};
   FolderEventLog event_log{directory, faults};
   FolderDesktop desktop{faults};
+  FolderAccounts accounts;
   FolderParent parent{directory, ini.parent_window, faults};
 
-  Machine machine{registry, wmi,    ini_files, files,  processes, url_cache,   shell,  event_log,
-                  parent,   *clock, locale,    events, dialogs,   environment, desktop};
+  Machine machine{registry, wmi,    ini_files, files,  processes, url_cache,   shell,   event_log,
+                  parent,   *clock, locale,    events, dialogs,   environment, desktop, accounts};
 
   static Faults faultsOf(const MachineIni& ini) {
     Faults faults;

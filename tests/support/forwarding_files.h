@@ -35,6 +35,12 @@ class ForwardingFiles : public Files {
   Status subfolders(std::string_view folder, std::vector<std::string>& names) override {
     return inner_.subfolders(folder, names);
   }
+  Status security(std::string_view path, SecurityDescriptor& out) override {
+    return inner_.security(path, out);
+  }
+  Status setSecurity(std::string_view path, const SecurityDescriptor& descriptor) override {
+    return inner_.setSecurity(path, descriptor);
+  }
 
  private:
   Files& inner_;
@@ -42,10 +48,10 @@ class ForwardingFiles : public Files {
 
 /// The same machine with other files.
 inline Machine withFiles(const Machine& machine, Files& files) {
-  return {machine.registry,  machine.wmi,         machine.ini,    files,
-          machine.processes, machine.url_cache,   machine.shell,  machine.event_log,
-          machine.parent,    machine.clock,       machine.locale, machine.events,
-          machine.dialogs,   machine.environment, machine.desktop};
+  return {machine.registry,  machine.wmi,         machine.ini,     files,
+          machine.processes, machine.url_cache,   machine.shell,   machine.event_log,
+          machine.parent,    machine.clock,       machine.locale,  machine.events,
+          machine.dialogs,   machine.environment, machine.desktop, machine.accounts};
 }
 
 }  // namespace tavr::testing

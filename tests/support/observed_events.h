@@ -31,10 +31,10 @@ class ObservedEvents : public Events {
 
 /// The same machine with other events.
 inline Machine withEvents(const Machine& machine, Events& events) {
-  return {machine.registry,  machine.wmi,         machine.ini,    machine.files,
-          machine.processes, machine.url_cache,   machine.shell,  machine.event_log,
-          machine.parent,    machine.clock,       machine.locale, events,
-          machine.dialogs,   machine.environment, machine.desktop};
+  return {machine.registry,  machine.wmi,         machine.ini,     machine.files,
+          machine.processes, machine.url_cache,   machine.shell,   machine.event_log,
+          machine.parent,    machine.clock,       machine.locale,  events,
+          machine.dialogs,   machine.environment, machine.desktop, machine.accounts};
 }
 
 }  // namespace tavr::testing

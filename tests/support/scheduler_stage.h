@@ -52,9 +52,9 @@ class Scheduler : public ::testing::Test {
     if (stage_) return *stage_;
     stage_ = std::make_unique<FormStage>(machine);
     const Machine& m = stage_->program.machine;
-    machine_ = std::make_unique<Machine>(
-        Machine{m.registry, m.wmi, m.ini, m.files, m.processes, m.url_cache, m.shell, m.event_log,
-                m.parent, m.clock, m.locale, m.events, person, m.environment, m.desktop});
+    machine_ = std::make_unique<Machine>(Machine{
+        m.registry, m.wmi, m.ini, m.files, m.processes, m.url_cache, m.shell, m.event_log, m.parent,
+        m.clock, m.locale, m.events, person, m.environment, m.desktop, m.accounts});
     context_ = std::make_unique<FormContext>(
         FormContext{*machine_, stage_->program.registry, stage_->program.numbers,
                     stage_->program.tracks, stage_->language, stage_->host});

@@ -11,9 +11,9 @@ namespace tavr::testing {
 namespace {
 
 Machine withDialogs(const Machine& m, Dialogs& dialogs) {
-  return {m.registry,  m.wmi,    m.ini,       m.files,       m.processes,
-          m.url_cache, m.shell,  m.event_log, m.parent,      m.clock,
-          m.locale,    m.events, dialogs,     m.environment, m.desktop};
+  return {m.registry, m.wmi,         m.ini,     m.files,   m.processes, m.url_cache,
+          m.shell,    m.event_log,   m.parent,  m.clock,   m.locale,    m.events,
+          dialogs,    m.environment, m.desktop, m.accounts};
 }
 
 bool endsProcess(const std::function<void()>& action) {

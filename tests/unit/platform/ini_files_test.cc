@@ -43,6 +43,12 @@ class MemoryFiles : public Files {
   bool canOpen(std::string_view) override { return false; }
   Status setCurrentDirectory(std::string_view) override { return kNotSupported; }
   Status subfolders(std::string_view, std::vector<std::string>&) override { return kNotSupported; }
+  Status security(std::string_view /*path*/, SecurityDescriptor& /*out*/) override {
+    return kNotSupported;
+  }
+  Status setSecurity(std::string_view /*path*/, const SecurityDescriptor& /*descriptor*/) override {
+    return kNotSupported;
+  }
 
  private:
   class MemoryFile : public OpenFile {

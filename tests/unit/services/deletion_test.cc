@@ -126,9 +126,10 @@ TEST_F(DeletionTest, AFileOfTheRecycleBinIsDeletedWithoutAskingForItsRights) {
   machine.file("C:\\$Recycle.Bin\\S-1\\$R1").file("C:\\d\\a");
   RecordingEnvironment environment(machine.machine().environment);
   Machine& real = machine.machine();
-  Machine fake{real.registry,  real.wmi,    real.ini,       real.files,  real.processes,
-               real.url_cache, real.shell,  real.event_log, real.parent, real.clock,
-               real.locale,    real.events, real.dialogs,   environment, real.desktop};
+  Machine fake{real.registry,  real.wmi,       real.ini,     real.files,
+               real.processes, real.url_cache, real.shell,   real.event_log,
+               real.parent,    real.clock,     real.locale,  real.events,
+               real.dialogs,   environment,    real.desktop, real.accounts};
   Form1 own_form(fake);
   own_form.file_system_object.emplace();
   FileNumbers numbers(fake);

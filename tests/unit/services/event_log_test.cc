@@ -100,7 +100,7 @@ class ReportTest : public ::testing::Test {
     Machine& real = machine.machine();
     fake_.emplace(Machine{real.registry, real.wmi, real.ini, real.files, real.processes,
                           real.url_cache, real.shell, service, real.parent, real.clock, real.locale,
-                          real.events, beeps, real.environment, real.desktop});
+                          real.events, beeps, real.environment, real.desktop, real.accounts});
   }
   void report() { fReportError(*fake_, stack, {6, "Overflow"}, "Search", "FileSizeToDouble", 12); }
 

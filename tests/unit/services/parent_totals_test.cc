@@ -78,7 +78,8 @@ class ParentTotalsTest : public ::testing::Test {
     Machine& real = machine.machine();
     fake_.emplace(Machine{real.registry, real.wmi, real.ini, real.files, real.processes,
                           real.url_cache, real.shell, real.event_log, parent, real.clock,
-                          real.locale, real.events, real.dialogs, real.environment, real.desktop});
+                          real.locale, real.events, real.dialogs, real.environment, real.desktop,
+                          real.accounts});
   }
   void send(std::string_view text) { ParentTotals(*fake_).send(text); }
 

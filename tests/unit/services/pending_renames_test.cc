@@ -120,7 +120,8 @@ TEST_F(PendingRenamesTest, SavingBindsCreatesWritesAndReadsBack) {
   Machine& real = machine.machine();
   Machine fake{real.registry,  wmi,         real.ini,       real.files,       real.processes,
                real.url_cache, real.shell,  real.event_log, real.parent,      real.clock,
-               real.locale,    real.events, real.dialogs,   real.environment, real.desktop};
+               real.locale,    real.events, real.dialogs,   real.environment, real.desktop,
+               real.accounts};
   Form1 own_form(fake);
   FileNumbers numbers(fake);
   Deletion own(fake, own_form, numbers);

@@ -58,6 +58,10 @@ class RecordingRegistry : public Registry {
     }
     Status deleteValue(std::string_view name) override { return inner_->deleteValue(name); }
     Status deleteKey(std::string_view subkey) override { return inner_->deleteKey(subkey); }
+    Status security(SecurityDescriptor& out) override { return inner_->security(out); }
+    Status setSecurity(const SecurityDescriptor& descriptor) override {
+      return inner_->setSecurity(descriptor);
+    }
 
    private:
     RecordingRegistry& owner_;
@@ -78,7 +82,7 @@ class RegistryMasksTest : public ::testing::Test {
       machine_.emplace(Machine{recorder, real.wmi, real.ini, real.files, real.processes,
                                real.url_cache, real.shell, real.event_log, real.parent, real.clock,
                                real.locale, real.events, real.dialogs, real.environment,
-                               real.desktop});
+                               real.desktop, real.accounts});
     }
     return *machine_;
   }

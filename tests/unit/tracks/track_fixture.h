@@ -95,9 +95,9 @@ class TrackTest : public ::testing::Test {
     Machine& m = world_.machine();
     events_ = std::make_unique<ActingEvents>(m.events);
     registry_ = std::make_unique<RecordingRegistry>(m.registry);
-    machine_ = std::make_unique<Machine>(
-        Machine{*registry_, m.wmi, m.ini, m.files, m.processes, m.url_cache, m.shell, m.event_log,
-                m.parent, m.clock, m.locale, *events_, m.dialogs, m.environment, m.desktop});
+    machine_ = std::make_unique<Machine>(Machine{
+        *registry_, m.wmi, m.ini, m.files, m.processes, m.url_cache, m.shell, m.event_log, m.parent,
+        m.clock, m.locale, *events_, m.dialogs, m.environment, m.desktop, m.accounts});
     program_ = std::make_unique<Program>(*machine_);
     Form1& f = program_->form;
     f.View100.add("Task", "a");

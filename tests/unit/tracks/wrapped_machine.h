@@ -78,6 +78,10 @@ class RecordingKey : public RegistryKey {
     calls_.push_back("key " + path_ + "\\" + std::string(subkey));
     return inner_->deleteKey(subkey);
   }
+  Status security(SecurityDescriptor& out) override { return inner_->security(out); }
+  Status setSecurity(const SecurityDescriptor& descriptor) override {
+    return inner_->setSecurity(descriptor);
+  }
 
  private:
   std::unique_ptr<RegistryKey> inner_;
