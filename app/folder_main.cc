@@ -75,7 +75,11 @@ tavr::PlayActions actionsOn(tavr::folder::MachineFolder& folder, tavr::Program& 
     return program.desk.loaded(name);
   };
   actions.wait = [&program](std::uint32_t ms) { program.machine.events.wait(ms); };
-  actions.hotkey = [&program] { tavr::hotKeyProcedure(program, tavr::kHotKeyMessage, 1); };
+  // A combination that is not registered brings no message.
+  actions.hotkey = [&folder, &program] {
+    if (!folder.desktop().hotKeys().contains(1)) return;
+    tavr::hotKeyProcedure(program, tavr::kHotKeyMessage, 1);
+  };
   actions.minimise = [&program] { tavr::setWindowState(program, tavr::WindowState::kMinimised); };
   actions.close = [&program] { tavr::closeWindow(program); };
   actions.choose = [&folder](std::string_view file) { folder.desktop().chooseNext(file); };
@@ -96,6 +100,8 @@ int playOn(tavr::folder::MachineFolder& folder, tavr::Program& program,
     result = tavr::play(script, actionsOn(folder, program), stdout, message);
   } catch (const tavr::ProcessEnd&) {
     // The script, or an unattended start, has ended the program.
+  } catch (const tavr::RuntimeError&) {
+    return fail(options.play + ": the program could not go on");
   }
   if (!folder.save()) return fail(options.machine + "/registry.reg: cannot be written");
   if (result == tavr::PlayResult::kDone) return kDone;

@@ -104,6 +104,18 @@ TEST(LiveFigures, NothingTicksBehindARun) {
   EXPECT_EQ(machine.registryText(Root::kLocalMachine, kLive, "tracks-reg-count"), "<none>");
 }
 
+TEST(LiveFigures, OneThatCannotBeWrittenLeavesTheOtherTwo) {
+  TestMachine machine;
+  machine.ini("[fault]\nRegSetValueEx=1,5\n");
+  WatchedProgram program(machine);
+  program.form.txtregcount.setText("7");
+  program.form.txtfilecount.setText("12");
+  Timer2_Timer(program.program);
+  EXPECT_EQ(machine.registryText(Root::kLocalMachine, kLive, "tracks-reg-count"), "<none>");
+  EXPECT_EQ(machine.registryText(Root::kLocalMachine, kLive, "tracks-file-count"), "12");
+  EXPECT_EQ(machine.registryText(Root::kLocalMachine, kLive, "tracks-size-count"), "0.000 KB");
+}
+
 TEST(LiveFigures, AreTheTextsAsTheyStandWhereTheLabelsTakeNumbers) {
   TestMachine machine;
   WatchedProgram program(machine);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "platform/folder/folder_events.h"
 
@@ -45,6 +46,16 @@ TEST_F(FolderDialogsTest, TheTitleIsNotSearched) {
 TEST_F(FolderDialogsTest, LettersBeyondAsciiCompareWithoutCaseToo) {
   FolderDialogs dialogs(Answers{false, {{"БРАУЗЕР", true}}}, nullptr, events);
   EXPECT_EQ(dialogs.messageBox("Яндекс Браузер", kYesNoQuestion, ""), kAnswerYes);
+}
+
+TEST_F(FolderDialogsTest, APersonSeesTheApplicationsTitleWhereTheBoxHasNone) {
+  std::vector<std::string> titles;
+  FolderDialogs dialogs(
+      std::nullopt,
+      [&](auto, std::string_view title) { return titles.emplace_back(title), kAnswerYes; }, events);
+  dialogs.messageBox("Restore it?", kYesNoWarning, "");
+  dialogs.messageBox("Restore it?", kYesNoWarning, "Own");
+  EXPECT_EQ(titles, (std::vector<std::string>{"Spoorwipe", "Own"}));
 }
 
 TEST_F(FolderDialogsTest, ABoxThatAsksNothingIsAnsweredOk) {
