@@ -1,6 +1,7 @@
 #include "config/small_forms_code.h"
 
 #include <array>
+#include <cstdint>
 #include <string>
 
 #include "basic/number.h"
@@ -69,7 +70,7 @@ void Form4Code::Check1_Click() {
   context_.registry.saveSetting(settings::kOptionKeyOfNote, "msg", numberText(form.Check1.value()));
 }
 
-FrmaboutCode::FrmaboutCode(FormContext& context) : context_(context) {
+FrmaboutCode::FrmaboutCode(FormContext& context) : form(context.machine.events), context_(context) {
   for (int index = 0; index < static_cast<int>(form.Label2.size()); ++index) {
     form.Label2[static_cast<std::size_t>(index)].onClick = [this, index] { Label2_Click(index); };
   }
@@ -79,7 +80,12 @@ FrmaboutCode::FrmaboutCode(FormContext& context) : context_(context) {
 void FrmaboutCode::Form_Load() {
   ResumeNext on;
   context_.language.apply(form);
-  on.next([&] { form.back_color = lookColor(context_.machine); });
+  on.next([&] {
+    const std::int32_t color = lookColor(context_.machine);
+    form.back_color = color;
+    form.chameleonButton1.color = color;
+    form.chameleonButton1.hover_color = color;
+  });
   form.Label3.caption = "Copyright " + numberText(kFirstYear) + " - " +
                         numberText(context_.machine.clock.now().year) + " Tavrwork";
   centre(context_.machine, form);

@@ -144,6 +144,21 @@ void connectHover(Program& program) {
   hover(form.chameleonButton7, "122");
   hover(form.chameleonButton8, "123");
   hover(form.chameleonButton11, "125");
+
+  // The big buttons lie under the command column, which speaks for them.
+  const auto speaksFor = [](Button& road, ChameleonButton& core) {
+    road.onMouseMove = [&road, &core] {
+      core.onMouseMove();
+      road.tool_tip = core.tool_tip;
+    };
+  };
+  speaksFor(form.cmd_view, form.chameleonButton1);
+  speaksFor(form.cmd_clear, form.chameleonButton2);
+  speaksFor(form.cmd_plugin, form.chameleonButton3);
+  speaksFor(form.cmd_start, form.chameleonButton5);
+  speaksFor(form.cmd_test, form.chameleonButton6);
+  speaksFor(form.cmd_settings, form.chameleonButton7);
+  speaksFor(form.cmd_option, form.chameleonButton8);
 }
 
 }  // namespace

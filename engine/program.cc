@@ -22,6 +22,7 @@ PlugInControls plugInControls(Form1& form) {
 Program::Program(Machine& on)
     : machine(on),
       form(on),
+      message(on.events),
       numbers(on),
       registry(on, form.List12, form.List20, form.Text2),
       deletion(on, form, numbers),

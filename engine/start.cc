@@ -182,6 +182,10 @@ void Form_Load(Program& program) {
   form.stopflag = 0;
   form.Gif89a1.file = program.file("search.gif");
   form.Label222.caption = numberText(program.machine.clock.now().year);
+  // The columns are no buttons: nothing sorts by them.
+  for (ListHeader* header : {&form.View100.header, &form.View200.header}) {
+    header->style ^= ListHeader::kButtons;
+  }
   form.grant_failed = !GrantKeyAccess(program.machine, Root::kLocalMachine, settings::kSelectionKey,
                                       program.machine.environment.get("UserName"));
   form.Text4.setText("1");

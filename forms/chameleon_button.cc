@@ -1,8 +1,8 @@
 #include "forms/chameleon_button.h"
 
-#include <type_traits>
+#include <vector>
 
-#include "basic/number.h"
+#include "basic/text.h"
 
 namespace tavr {
 
@@ -19,7 +19,7 @@ void eachProperty(ButtonT& button, Visit&& visit) {
   visit("BTYPE", button.button_type);
   visit("TX", button.caption);
   visit("ENAB", button.enabled);
-  visit("FONT", button.font.name);
+  visit("FONT", button.font);
   visit("COLTYPE", button.color_scheme);
   visit("FOCUSR", button.show_focus_rect);
   visit("MPTR", button.mouse_pointer);
@@ -36,19 +36,28 @@ void eachProperty(ButtonT& button, Visit&& visit) {
   visit("VALUE", button.value);
 }
 
-std::string asText(const std::string& value) { return value; }
-std::string asText(bool value) { return value ? "True" : "False"; }
-std::string asText(std::int32_t value) { return std::to_string(value); }
-
-template <class T>
-void fromText(std::string_view text, T& value) {
-  if constexpr (std::is_same_v<T, std::string>) {
-    value = text;
-  } else if constexpr (std::is_same_v<T, bool>) {
-    value = sameText(text, "True") || Val(text) != 0;
-  } else {
-    value = static_cast<T>(Val(text));
+// A font is kept as its name, size and character set, and its three marks.
+std::string storedText(const ControlFont& font) {
+  std::string text = font.name + "," + font.size + "," + tavr::storedText(font.charset);
+  for (const bool mark : {font.bold, font.italic, font.underline}) {
+    text += "," + tavr::storedText(mark);
   }
+  return text;
+}
+
+// What is missing behind the name is as on a fresh button.
+void fromStored(std::string_view text, ControlFont& font) {
+  font = ControlFont();
+  const std::vector<std::string> fields = Split(text, ',');
+  const auto take = [&fields](std::size_t index, auto& property) {
+    if (index < fields.size()) tavr::fromStored(fields[index], property);
+  };
+  take(0, font.name);
+  take(1, font.size);
+  take(2, font.charset);
+  take(3, font.bold);
+  take(4, font.italic);
+  take(5, font.underline);
 }
 
 }  // namespace
@@ -59,7 +68,8 @@ ChameleonButton::ChameleonButton(Events& events)
 }
 
 void ChameleonButton::writeProperties(PropertyBag& bag) const {
-  eachProperty(*this, [&](const char* key, const auto& property) { bag[key] = asText(property); });
+  eachProperty(*this,
+               [&](const char* key, const auto& property) { bag[key] = storedText(property); });
 }
 
 void ChameleonButton::readProperties(const PropertyBag& bag) {
@@ -67,14 +77,14 @@ void ChameleonButton::readProperties(const PropertyBag& bag) {
   ChameleonButton(events_).writeProperties(fresh);
   eachProperty(*this, [&](const char* key, auto& property) {
     const auto stored = bag.find(key);
-    fromText(stored == bag.end() ? fresh.at(key) : stored->second, property);
+    fromStored(stored == bag.end() ? fresh.at(key) : stored->second, property);
   });
 }
 
 void ChameleonButton::setProperty(std::string_view key, std::string_view text) {
   eachProperty(*this, [&](std::string_view own, auto& property) {
     if (own != key) return;
-    fromText(text, property);
+    fromStored(text, property);
     if (onPropertyChange) onPropertyChange(own == "PICH" ? "PICO" : own);
   });
 }

@@ -5,12 +5,11 @@
 
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "forms/controls.h"
+#include "forms/property_bag.h"
 
 namespace tavr {
 
@@ -18,9 +17,6 @@ enum class MouseButton : std::uint8_t { kLeft = 1, kRight = 2, kMiddle = 4 };
 
 /// The keys that the button answers to.
 enum class ButtonKey : std::uint8_t { kSpace, kLeft, kUp, kRight, kDown };
-
-/// Stored properties: key and text.
-using PropertyBag = std::map<std::string, std::string, std::less<>>;
 
 class ChameleonButton : public Button {
  public:
@@ -61,6 +57,13 @@ class ChameleonButton : public Button {
   /// ignored. The notice of PictureOver goes by another key than the bag's.
   void setProperty(std::string_view key, std::string_view text);
   std::function<void(std::string_view key)> onPropertyChange;
+
+  // Of its font, each a property of its own on the form and none in the bag.
+  bool& FontBold() { return font.bold; }
+  bool& FontItalic() { return font.italic; }
+  bool& FontUnderline() { return font.underline; }
+  std::string& FontSize() { return font.size; }
+  std::string& FontName() { return font.name; }
 
   // What a view passes on.
   void mouseMove(bool any_button_down = false);

@@ -57,6 +57,10 @@ struct ControlFont {
   std::string name = "Segoe UI";
   std::string size = "9";
   int charset = 0;
+  bool bold = false;
+  bool italic = false;
+  bool underline = false;
+  bool operator==(const ControlFont&) const = default;
 };
 
 class Control {

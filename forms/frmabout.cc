@@ -21,7 +21,7 @@ constexpr ControlDesign kDesign[] = {
 
 std::span<const ControlDesign> frmaboutDesign() { return kDesign; }
 
-frmabout::frmabout() : Form("frmabout", "About", 420, 288) {
+frmabout::frmabout(Events& events) : Form("frmabout", "About", 420, 288), chameleonButton1(events) {
   place(kDesign, "Label222", 1, Label222);
   place(kDesign, "Label1", -1, Label1);
   place(kDesign, "Label3", -1, Label3);

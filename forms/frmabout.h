@@ -6,6 +6,7 @@
 #include <array>
 #include <span>
 
+#include "forms/chameleon_button.h"
 #include "forms/controls.h"
 #include "forms/form.h"
 
@@ -15,14 +16,14 @@ namespace tavr {
 std::span<const ControlDesign> frmaboutDesign();
 
 struct frmabout : Form {
-  frmabout();
+  explicit frmabout(Events& events);
 
   Label Label222;  ///< Label222(1), the title
   Label Label1;    ///< the product's name
   Label Label3;    ///< the years
   /// The links: [3] web site, [2] plug-ins, [1] support, [0] translation tool.
   std::array<Label, 4> Label2;
-  Button chameleonButton1;  ///< closes
+  ChameleonButton chameleonButton1;  ///< closes; in the colour of the form
 };
 
 }  // namespace tavr

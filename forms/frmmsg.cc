@@ -16,7 +16,7 @@ constexpr ControlDesign kDesign[] = {
 
 std::span<const ControlDesign> frmmsgDesign() { return kDesign; }
 
-frmmsg::frmmsg() : Form("frmmsg", "", 420, 180) {
+frmmsg::frmmsg(Events& events) : Form("frmmsg", "", 420, 180), chameleonButton1(events) {
   place(kDesign, "Text1", -1, Text1);
   place(kDesign, "chameleonButton1", -1, chameleonButton1);
   place(kDesign, "command2", -1, command2);

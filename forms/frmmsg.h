@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "forms/chameleon_button.h"
 #include "forms/controls.h"
 #include "forms/form.h"
 
@@ -16,11 +17,11 @@ namespace tavr {
 std::span<const ControlDesign> frmmsgDesign();
 
 struct frmmsg : Form {
-  frmmsg();
+  explicit frmmsg(Events& events);
 
   TextBox Text1;
-  Button chameleonButton1;  ///< answers "vbYes"
-  Button command2;          ///< answers "vbNo"
+  ChameleonButton chameleonButton1;  ///< answers "vbYes"
+  Button command2;                   ///< answers "vbNo"
 
   /// "vbYes" or "vbNo" once a button was pressed; emptied by who asks.
   std::string state;
@@ -28,6 +29,7 @@ struct frmmsg : Form {
   /// What its load does beyond its own values; none until the code is put in.
   std::function<void()> onLoad;
   void load() {
+    if (!visible) caption.clear();  // a closed one keeps nothing of the last message
     topmost = true;
     if (onLoad) onLoad();
   }

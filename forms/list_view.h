@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "forms/control.h"
+#include "forms/list_header.h"
 
 namespace tavr {
 
@@ -37,7 +38,8 @@ struct ListRow {
 class ListView : public Control {
  public:
   std::vector<std::string> columns;  ///< header texts
-  int selected = 0;                  ///< the row that was clicked last, 0 for none
+  ListHeader header;
+  int selected = 0;  ///< the row that was clicked last, 0 for none
 
   /// The row's check mark was set by a person.
   std::function<void(int row)> onItemCheck;

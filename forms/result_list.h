@@ -12,12 +12,14 @@
 #include <vector>
 
 #include "forms/control.h"
+#include "forms/list_header.h"
 
 namespace tavr {
 
 class ResultList : public Control {
  public:
   std::vector<std::string> columns;  ///< header texts
+  ListHeader header;
 
   void clear();
   std::size_t count() const { return count_; }

@@ -1,7 +1,5 @@
 #include "forms/tray_area.h"
 
-#include <functional>
-
 #include "basic/utf.h"
 
 namespace tavr {
@@ -28,8 +26,7 @@ void TrayArea::setVisible(bool on) {
 }
 
 void TrayArea::add() {
-  // One icon a process: any number in the range tells it from no other.
-  record_.id = 1 + static_cast<std::uint32_t>(std::hash<const void*>{}(this) % 65535);
+  record_.id = std::uniform_int_distribution<std::uint32_t>(1, 65535)(random_);
   record_.flags = kFlagMessage;
   if (!icon_.empty()) record_.flags += kFlagIcon;
   if (!tool_tip.empty()) record_.flags += kFlagTip;
@@ -37,17 +34,41 @@ void TrayArea::add() {
   desktop_.addTrayIcon(record_.tip);
 }
 
+// Only what the flag names is taken from the record.
+void TrayArea::change(std::uint32_t flag) {
+  if (!visible()) return;
+  record_.flags = flag;
+  record_.tip = leftUtf16(tool_tip, kTipLength);
+  desktop_.changeTrayIcon(record_.tip);
+}
+
 void TrayArea::setIcon(std::string_view picture) {
   icon_ = picture;
   if (icon_.empty()) return setVisible(false);
-  if (visible()) record_.flags |= kFlagIcon;
+  change(kFlagIcon);
 }
 
 void TrayArea::setToolTip(std::string_view text) {
   tool_tip = text;
-  if (!visible()) return;
-  desktop_.removeTrayIcon();
-  add();
+  change(kFlagTip);
+}
+
+void TrayArea::writeProperties(PropertyBag& bag) const {
+  bag["Icon"] = icon_;
+  bag["ToolTip"] = tool_tip;
+  bag["Visible"] = storedText(visible());
+}
+
+void TrayArea::readProperties(const PropertyBag& bag) {
+  const auto read = [&bag](std::string_view key) {
+    const auto stored = bag.find(key);
+    return stored == bag.end() ? std::string() : stored->second;
+  };
+  setIcon(read("Icon"));
+  setToolTip(read("ToolTip"));
+  bool shown = false;
+  fromStored(read("Visible"), shown);
+  setVisible(shown);
 }
 
 void TrayArea::message(std::uint32_t tray_message) {

@@ -4,10 +4,12 @@
 
 #include <cstdint>
 #include <functional>
+#include <random>
 #include <string>
 #include <string_view>
 
 #include "forms/control.h"
+#include "forms/property_bag.h"
 #include "platform/desktop.h"
 
 namespace tavr {
@@ -20,7 +22,7 @@ class TrayArea : public Control {
   static constexpr std::uint32_t kFlagIcon = 2;
   static constexpr std::uint32_t kFlagTip = 4;
 
-  /// What the icon was added with.
+  /// What the icon was last added or changed with.
   struct NotifyRecord {
     std::uint32_t size = kNotifySize;
     std::uint32_t id = 0;  ///< 1 to 65535
@@ -38,10 +40,14 @@ class TrayArea : public Control {
   /// Adds or removes the icon; the value it has does nothing.
   void setVisible(bool on);
   const std::string& icon() const { return icon_; }
-  /// A picture's file; "" hides the icon.
+  /// A picture's file, which the shown icon takes; "" hides the icon.
   void setIcon(std::string_view picture);
   const std::string& toolTip() const { return tool_tip; }
   void setToolTip(std::string_view text);
+
+  void writeProperties(PropertyBag& bag) const;
+  /// A key that is missing: no picture, no text, and out of sight.
+  void readProperties(const PropertyBag& bag);
 
   const NotifyRecord& record() const { return record_; }
 
@@ -58,10 +64,12 @@ class TrayArea : public Control {
 
  private:
   void add();
+  void change(std::uint32_t flag);
 
   Desktop& desktop_;
   std::string icon_;
   NotifyRecord record_;
+  std::minstd_rand random_;  // never seeded: every start draws the same numbers
   bool sized_ = false;
 };
 

@@ -27,6 +27,8 @@ class Desktop {
 
   /// Shell_NotifyIcon for the program's one icon: added with its tool tip.
   virtual void addTrayIcon(std::string_view tool_tip) = 0;
+  /// The same for the icon that stands there: its picture or tool tip is another.
+  virtual void changeTrayIcon(std::string_view tool_tip) = 0;
   virtual void removeTrayIcon() = 0;
 
   /// The common file-open dialog. Nothing: it was cancelled.

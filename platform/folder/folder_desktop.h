@@ -25,6 +25,9 @@ class FolderDesktop : public Desktop {
   void unregisterHotKey(int id) override { hot_keys_.erase(id); }
 
   void addTrayIcon(std::string_view tool_tip) override { tray_tool_tip_ = tool_tip; }
+  void changeTrayIcon(std::string_view tool_tip) override {
+    if (tray_tool_tip_) tray_tool_tip_ = tool_tip;
+  }
   void removeTrayIcon() override { tray_tool_tip_.reset(); }
 
   std::optional<std::string> chooseFile(std::string_view /*filter*/,

@@ -157,7 +157,7 @@ void install(TestMachine& machine, const Entry& entry) {
 
 // The forms that take a language.
 struct Forms {
-  explicit Forms(Machine& machine) : form2(machine), form3(machine.events) {}
+  explicit Forms(Machine& machine) : form2(machine), form3(machine.events), about(machine.events) {}
   Form2 form2;
   Form3 form3;
   frmabout about;

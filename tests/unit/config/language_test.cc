@@ -174,7 +174,7 @@ TEST(ApplyLanguage, TheAboutBoxDoesNotReadTheRow) {
   choose(machine, "xx", "204", "7");
   FormStage stage(machine);
   stage.language.langindex = 3;
-  frmabout about;
+  frmabout about(machine.machine().events);
   stage.language.apply(about);
   EXPECT_EQ(stage.language.langindex, 3);
   EXPECT_EQ(stage.language.langcode, 204);

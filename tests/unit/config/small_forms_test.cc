@@ -38,8 +38,9 @@ class ScriptedEvents : public Events {
 };
 
 Machine withEvents(const Machine& m, Events& events) {
-  return {m.registry, m.wmi,   m.ini,    m.files, m.processes, m.url_cache,   m.shell,  m.event_log,
-          m.parent,   m.clock, m.locale, events,  m.dialogs,   m.environment, m.desktop};
+  return {m.registry, m.wmi,         m.ini,     m.files,   m.processes, m.url_cache,
+          m.shell,    m.event_log,   m.parent,  m.clock,   m.locale,    events,
+          m.dialogs,  m.environment, m.desktop, m.accounts};
 }
 
 // Where a fresh form's boxes stand: inside it, and on nobody else's.
@@ -62,22 +63,24 @@ void expectSoundLayout(const Form& form) {
 }
 
 TEST(SmallForms, TheirControlsLieInsideAndApart) {
-  expectSoundLayout(frmmsg());
+  TestMachine machine;
+  expectSoundLayout(frmmsg(machine.machine().events));
   expectSoundLayout(Form4());
-  expectSoundLayout(frmabout());
+  expectSoundLayout(frmabout(machine.machine().events));
 }
 
 TEST(SmallForms, TheirDesignsPlaceEveryControl) {
-  EXPECT_EQ(frmmsg().controls().size(), frmmsgDesign().size());
+  TestMachine machine;
+  EXPECT_EQ(frmmsg(machine.machine().events).controls().size(), frmmsgDesign().size());
   EXPECT_EQ(Form4().controls().size(), form4Design().size());
-  EXPECT_EQ(frmabout().controls().size(), frmaboutDesign().size());
+  EXPECT_EQ(frmabout(machine.machine().events).controls().size(), frmaboutDesign().size());
 }
 
 // --- The message form ------------------------------------------------------------------
 
 TEST(MessageForm, LoadsOnTopInTheMiddleOfTheScreen) {
   TestMachine machine;
-  frmmsg form;
+  frmmsg form(machine.machine().events);
   connectMessageForm(machine.machine(), form);
   form.showMessage("Spoorwipe", "text", "subject");
   const ScreenSize screen = machine.machine().desktop.screen();
@@ -88,7 +91,8 @@ TEST(MessageForm, LoadsOnTopInTheMiddleOfTheScreen) {
 }
 
 TEST(MessageForm, ShowsHeadingAndTextAndTheSubjectNowhere) {
-  frmmsg form;
+  TestMachine machine;
+  frmmsg form(machine.machine().events);
   form.showMessage("heading", "text", "subject");
   EXPECT_EQ(form.caption, "heading");
   EXPECT_EQ(form.Text1.text(), "text");
@@ -98,7 +102,8 @@ TEST(MessageForm, ShowsHeadingAndTextAndTheSubjectNowhere) {
 }
 
 TEST(MessageForm, ItsButtonsSetTheStateTextAndClose) {
-  frmmsg form;
+  TestMachine machine;
+  frmmsg form(machine.machine().events);
   form.showMessage("", "", "");
   form.find("chameleonButton1")->press();
   EXPECT_EQ(form.state, "vbYes");
@@ -109,11 +114,22 @@ TEST(MessageForm, ItsButtonsSetTheStateTextAndClose) {
   EXPECT_FALSE(form.visible);
 }
 
+TEST(MessageForm, ThatWasClosedKeepsNoHeadingOfTheLastMessage) {
+  TestMachine machine;
+  frmmsg form(machine.machine().events);
+  form.showMessage("heading", "text", "");
+  form.load();
+  EXPECT_EQ(form.caption, "heading");
+  form.command2.press();
+  form.load();
+  EXPECT_EQ(form.caption, "");
+}
+
 TEST(MessageQuestion, PumpsEventsUntilAButtonIsPressed) {
   TestMachine test_machine;
   ScriptedEvents events;
   Machine machine = withEvents(test_machine.machine(), events);
-  frmmsg form;
+  frmmsg form(machine.events);
   form.state = "vbYes";  // of the question before
   events.steps = {
       [&] {
@@ -134,7 +150,7 @@ TEST(MessageQuestion, ClosingTheFormWithoutAButtonIsNoAnswer) {
   TestMachine test_machine;
   ScriptedEvents events;
   Machine machine = withEvents(test_machine.machine(), events);
-  frmmsg form;
+  frmmsg form(machine.events);
   events.steps = {[&] { form.visible = false; }, [&] { EXPECT_EQ(form.state, ""); },
                   [&] { form.chameleonButton1.press(); }};
   chkmsg(machine, form, "Really?");
@@ -147,8 +163,7 @@ TEST(MessageQuestion, ClosingTheFormWithoutAButtonIsNoAnswer) {
 TEST(BrowserNote, PutsTheNameInOnceAndFindsNothingToReplaceLater) {
   TestMachine machine;
   FormStage stage(machine);
-  frmmsg message;
-  Form4Code code(stage.context, message);
+  Form4Code code(stage.context, stage.program.message);
   const std::string note = code.form.Label1.caption;
   ASSERT_EQ(std::count(note.begin(), note.end(), '$'), 1);
   code.form.Text1.setText("Firefox");
@@ -161,8 +176,7 @@ TEST(BrowserNote, PutsTheNameInOnceAndFindsNothingToReplaceLater) {
 TEST(BrowserNote, AnEmptyNameThatDoesNotChangeTheBoxReplacesNothing) {
   TestMachine machine;
   FormStage stage(machine);
-  frmmsg message;
-  Form4Code code(stage.context, message);
+  Form4Code code(stage.context, stage.program.message);
   code.form.Text1.setText("");
   EXPECT_THAT(code.form.Label1.caption, HasSubstr("bnam$"));
 }
@@ -170,8 +184,7 @@ TEST(BrowserNote, AnEmptyNameThatDoesNotChangeTheBoxReplacesNothing) {
 TEST(BrowserNote, ItsBoxIsStoredAtEveryClick) {
   TestMachine machine;
   FormStage stage(machine);
-  frmmsg message;
-  Form4Code code(stage.context, message);
+  Form4Code code(stage.context, stage.program.message);
   const auto msg = [&] {
     return machine.registryText(Root::kLocalMachine,
                                 "software\\WOW6432Node\\tavrwork\\tavr wipe\\option", "msg");
@@ -187,11 +200,10 @@ TEST(BrowserNote, ItsBoxIsStoredAtEveryClick) {
 TEST(BrowserNote, ItsLoadPutsTheMessageFormOnTopAndNotItself) {
   TestMachine machine;
   FormStage stage(machine);
-  frmmsg message;
-  Form4Code code(stage.context, message);
+  Form4Code code(stage.context, stage.program.message);
   code.Form_Load();
   const ScreenSize screen = stage.program.machine.desktop.screen();
-  EXPECT_TRUE(message.topmost);
+  EXPECT_TRUE(stage.program.message.topmost);
   EXPECT_FALSE(code.form.topmost);
   EXPECT_EQ(code.form.left, (screen.width - code.form.width) / 2);
   EXPECT_EQ(code.form.top, (screen.height - code.form.height) / 2);
@@ -200,8 +212,7 @@ TEST(BrowserNote, ItsLoadPutsTheMessageFormOnTopAndNotItself) {
 TEST(BrowserNote, ItsButtonEndsIt) {
   TestMachine machine;
   FormStage stage(machine);
-  frmmsg message;
-  Form4Code code(stage.context, message);
+  Form4Code code(stage.context, stage.program.message);
   code.form.visible = true;
   code.form.find("command2")->press();
   EXPECT_FALSE(code.form.visible);
@@ -237,6 +248,16 @@ TEST(AboutBox, TakesTheColourOfTheLookItsDefaultOrTheDesigns) {
   EXPECT_EQ(color(bad), 0);
 }
 
+TEST(AboutBox, ItsCloseButtonTakesTheColourOfTheForm) {
+  TestMachine machine;
+  machine.value(kLook, "color", "255");
+  FormStage stage(machine);
+  FrmaboutCode code(stage.context);
+  code.Form_Load();
+  EXPECT_EQ(code.form.chameleonButton1.color, 255);
+  EXPECT_EQ(code.form.chameleonButton1.hover_color, 255);
+}
+
 TEST(AboutBox, ReadsItsCaptions) {
   TestMachine machine;
   machine.value(kLook + "\\tavrwipe", "lang", "xx");
@@ -259,10 +280,12 @@ TEST(AboutBox, ItsLinksOpenPagesAndTheTranslationTool) {
     code.form.find(name)->press();
   }
   const std::string log = machine.readMachineFile("shell.log");
-  EXPECT_EQ(std::count(log.begin(), log.end(), '\n'), 4) << log;
-  EXPECT_THAT(log, HasSubstr("open"));
-  EXPECT_THAT(log, HasSubstr(std::string(kMakerSite) + std::string(kPlugInPage)));
-  EXPECT_THAT(log, HasSubstr("C:\\Program Files\\Tavr Wipe\\tavrlocale.exe"));
+  const std::string open = "execute 1 open ";
+  const std::string site(kMakerSite);
+  EXPECT_EQ(log, open + site + "\n" +                                 //
+                     open + site + std::string(kPlugInPage) + "\n" +  //
+                     open + site + "/support.htm\n" +                 //
+                     open + "C:\\Program Files\\Tavr Wipe\\tavrlocale.exe\n");
 }
 
 TEST(AboutBox, ClosingItBringsTheMainFormBack) {

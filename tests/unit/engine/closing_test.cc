@@ -4,6 +4,7 @@
 
 #include "engine/window.h"
 #include "tests/support/started_program.h"
+#include "tests/support/watched_program.h"
 
 namespace tavr {
 namespace {
@@ -108,6 +109,51 @@ TEST_F(ClosingTest, WhileARunOnExitGoesOnAnotherCloseDoesNotEndTheProcess) {
   EXPECT_TRUE(it.desktop().hotKeys().empty());
   EXPECT_FALSE(it.ends([&] { closeWindow(it.program()); }));
   EXPECT_FALSE(it.form().visible);
+}
+
+// A run is a handler that pumps: what a person does meanwhile is served inside it.
+class DuringARun : public ::testing::Test {
+ protected:
+  WatchedProgram& started(std::string_view arguments = "") {
+    machine.setting(kOptionSetting, "firsttime", "1")
+        .setting(kOptionsSetting, "5", "1")
+        .setting(kMainSetting, "key", "K")
+        .select("10")
+        .file("C:\\Users\\user\\AppData\\Local\\Temp\\a");
+    program = std::make_unique<WatchedProgram>(machine);
+    program->program.onRunFinished = [this](RunKind kind) { runs.push_back(kind); };
+    EXPECT_FALSE(program->start(arguments));
+    return *program;
+  }
+
+  TestMachine machine;
+  std::unique_ptr<WatchedProgram> program;
+  std::vector<RunKind> runs;
+};
+
+TEST_F(DuringARun, TheCloseButtonEndsTheProcessAtOnce) {
+  WatchedProgram& it = started();
+  it.events.next([&] { it.form.chameleonButton11.press(); });
+  EXPECT_TRUE(it.run(RunKind::erase));
+  EXPECT_THAT(runs, IsEmpty());
+  EXPECT_TRUE(machine.exists("C:\\Users\\user\\AppData\\Local\\Temp\\a"));
+}
+
+TEST_F(DuringARun, TheSystemCloseOfASilentStartErasesInsideItAndThenEndsTheProcess) {
+  machine.setting(kOptionsSetting, "1", "1");
+  WatchedProgram& it = started("s");
+  it.events.next([&] { closeWindow(it.program); });
+  EXPECT_TRUE(it.run(RunKind::test));
+  EXPECT_THAT(runs, ElementsAre(RunKind::erase));
+  EXPECT_FALSE(machine.exists("C:\\Users\\user\\AppData\\Local\\Temp\\a"));
+}
+
+TEST_F(DuringARun, TheHotKeyHidesTheWindowAndTheRunGoesOn) {
+  WatchedProgram& it = started();
+  it.events.next([&] { hotKeyProcedure(it.program, kHotKeyMessage, 1); });
+  EXPECT_FALSE(it.run(RunKind::test));
+  EXPECT_THAT(runs, ElementsAre(RunKind::test));
+  EXPECT_FALSE(it.form.visible);
 }
 
 }  // namespace

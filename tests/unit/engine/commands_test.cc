@@ -255,6 +255,17 @@ TEST_F(CommandsTest, TheHoverTextsComeFromTheLanguageFile) {
   }
 }
 
+TEST_F(CommandsTest, TheCommandColumnShowsTheHoverTextsOfTheButtonsBelowIt) {
+  const std::pair<const char*, const char*> kHints[] = {
+      {"cmd_view", "view"},   {"cmd_clear", "clear"}, {"cmd_plugin", "plug-ins"},
+      {"cmd_start", "erase"}, {"cmd_test", "test"},   {"cmd_settings", "settings"},
+      {"cmd_option", "options"}};
+  for (const auto& [name, text] : kHints) {
+    form.find(name)->onMouseMove();
+    EXPECT_EQ(form.find(name)->tool_tip, text) << name;
+  }
+}
+
 TEST_F(CommandsTest, TheLanguageButtonTogglesTheList) {
   form.chameleonButton12.press();
   EXPECT_TRUE(form.pictrlang.visible);
@@ -269,6 +280,23 @@ TEST_F(CommandsTest, PickingALanguageIsStoredAndClosesTheList) {
   EXPECT_EQ(machine.registryText(Root::kLocalMachine,
                                  "software\\tavrwork\\tavrwork brightbox\\tavrwipe", "langindex"),
             "0");
+}
+
+TEST_F(CommandsTest, TheToolbarsStopDuringItsTestFreesTheOthersBeforeTheRunEnds) {
+  bool stopped = false;
+  form.bar1.onValue = [&](int value) {
+    if (value == 5 && !stopped) {
+      stopped = true;
+      form.toolbar[10].press();
+    }
+    if (value != 85) return;
+    for (const int index : {1, 2, 4, 6, 8, 11, 12}) EXPECT_TRUE(tool(index)) << index;
+    EXPECT_FALSE(tool(10));
+    EXPECT_EQ(form.stopflag, 1);
+  };
+  form.toolbar[6].press();
+  EXPECT_TRUE(stopped);
+  EXPECT_THAT(started.runs, ElementsAre(RunKind::test));
 }
 
 }  // namespace

@@ -222,5 +222,44 @@ TEST(InteractiveStart, TheLanguageListIsFilledAndTheLanguageInForceApplied) {
   EXPECT_NE(started.form().find("lbllanguage(1)"), nullptr);
 }
 
+TEST(InteractiveStart, AFirstTimeMarkThatIsNoNumberOrZeroCountsAsTheFirst) {
+  for (const char* mark : {"0", "abc"}) {
+    TestMachine machine;
+    machine.setting(kOptionSetting, "firsttime", mark);
+    StartedProgram started(machine);
+    started.start();
+    EXPECT_TRUE(started.open("Form2")) << mark;
+    EXPECT_EQ(machine.registryText(Root::kLocalMachine, kFirstTime, "firsttime"), "1") << mark;
+  }
+}
+
+TEST(InteractiveStart, TheStripAndItsFourButtonsTakeTheConfiguredColourOrKeepTheDesigns) {
+  for (const auto& [text, color] : {std::pair{" 255 ", 255}, std::pair{"blue", 0}}) {
+    TestMachine machine;
+    usedBefore(machine).setting("tavrwork brightbox", "color", text);
+    StartedProgram started(machine);
+    started.start();
+    const Form1& form = started.form();
+    EXPECT_EQ(form.strip_color, color) << text;
+    for (const StripButton* button : {&form.chameleonButton9, &form.chameleonButton10,
+                                      &form.chameleonButton12, &form.chameleonButton13}) {
+      EXPECT_EQ(button->color, color) << text;
+      EXPECT_EQ(button->hover_color, color) << text;
+    }
+    EXPECT_EQ(form.chameleonButton11.color, 0) << text;
+  }
+}
+
+TEST(InteractiveStart, TheColumnHeadersOfBothTablesCannotBeClicked) {
+  TestMachine machine;
+  usedBefore(machine);
+  StartedProgram started(machine);
+  EXPECT_TRUE(started.form().View100.header.clickable());
+  EXPECT_TRUE(started.form().View200.header.clickable());
+  started.start();
+  EXPECT_FALSE(started.form().View100.header.clickable());
+  EXPECT_FALSE(started.form().View200.header.clickable());
+}
+
 }  // namespace
 }  // namespace tavr

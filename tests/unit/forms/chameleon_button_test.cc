@@ -169,5 +169,87 @@ TEST_F(ChameleonButtonTest, TheNoticeOfTheHoverPictureGoesByItsOwnKey) {
   EXPECT_EQ(notices, "PICO PICN ");
 }
 
+TEST_F(ChameleonButtonTest, TheRightButtonOnAPressedOneOnlyRaisesItsEvents) {
+  button.mouseDown(MouseButton::kLeft);
+  button.mouseDown(MouseButton::kRight);
+  button.mouseUp(MouseButton::kRight);
+  EXPECT_EQ(button.state(), State::kPressed);
+  EXPECT_EQ(drawn, Drawn{2});
+  EXPECT_EQ(downs, 2);
+  EXPECT_EQ(ups, 1);
+}
+
+TEST_F(ChameleonButtonTest, OnlyTheButtonThatPressedItReleasesIt) {
+  button.mouseDown(MouseButton::kLeft);
+  button.mouseUp(MouseButton::kMiddle);
+  EXPECT_EQ(button.state(), State::kPressed);
+  EXPECT_EQ(ups, 1);
+  button.mouseUp(MouseButton::kLeft);
+  EXPECT_EQ(button.state(), State::kNormal);
+  EXPECT_EQ(drawn, (Drawn{2, 0}));
+}
+
+TEST_F(ChameleonButtonTest, TheEventsAreRaisedBeforeTheirStateIsDrawn) {
+  std::string order;
+  button.onDraw = [&](int state) { order += "draw" + std::to_string(state) + " "; };
+  button.onMouseDown = [&](MouseButton) { order += "down "; };
+  button.onMouseUp = [&](MouseButton) { order += "up "; };
+  button.mouseDown(MouseButton::kLeft);
+  button.mouseUp(MouseButton::kLeft);
+  EXPECT_EQ(order, "down draw2 up draw0 ");
+}
+
+TEST_F(ChameleonButtonTest, TheSpaceKeyLeavesItNormalAlsoUnderTheMouse) {
+  button.mouseMove();
+  button.keyDown(ButtonKey::kSpace);
+  button.keyUp(ButtonKey::kSpace);
+  EXPECT_EQ(button.state(), State::kNormal);
+  EXPECT_EQ(drawn, (Drawn{0, 2, 0}));
+  button.mouseMove();
+  EXPECT_EQ(button.state(), State::kOver);
+}
+
+TEST_F(ChameleonButtonTest, TheMouseThatMovesOverAPressedOneDrawsNothing) {
+  button.mouseMove();
+  button.mouseDown(MouseButton::kLeft);
+  button.mouseMove(true);
+  EXPECT_EQ(button.state(), State::kPressed);
+  EXPECT_EQ(drawn, (Drawn{0, 2}));
+  EXPECT_EQ(moves, 2);
+}
+
+TEST_F(ChameleonButtonTest, AReleaseOutsideIsFollowedByTheNextTick) {
+  button.mouseMove();
+  button.mouseDown(MouseButton::kLeft);
+  button.pointer_inside = false;
+  machine.machine().events.wait(3 * ChameleonButton::kOverTimerInterval);
+  EXPECT_EQ(button.state(), State::kPressed);
+  button.mouseUp(MouseButton::kLeft);
+  machine.machine().events.wait(2 * ChameleonButton::kOverTimerInterval);
+  EXPECT_EQ(button.state(), State::kNormal);
+  EXPECT_FALSE(button.OverTimer.enabled());
+  EXPECT_EQ(drawn, (Drawn{0, 2, 0, 0}));
+}
+
+TEST_F(ChameleonButtonTest, TheFontPropertiesAreThoseOfTheFont) {
+  button.FontBold() = true;
+  button.FontItalic() = true;
+  button.FontUnderline() = true;
+  button.FontSize() = "11";
+  button.FontName() = "Tahoma";
+  EXPECT_EQ(button.font, (ControlFont{"Tahoma", "11", 0, true, true, true}));
+}
+
+TEST_F(ChameleonButtonTest, TheWholeFontIsStoredUnderItsKey) {
+  button.font = {"Tahoma", "11", 204, true, false, true};
+  PropertyBag bag;
+  button.writeProperties(bag);
+  ChameleonButton other(machine.machine().events);
+  other.readProperties(bag);
+  EXPECT_EQ(other.font, button.font);
+  other.setProperty("FONT", "Arial");
+  EXPECT_EQ(other.font, (ControlFont{"Arial", "9", 0, false, false, false}));
+}
+
 }  // namespace
 }  // namespace tavr

@@ -92,5 +92,57 @@ TEST_F(ProgressBarTest, CanBeShownAndHidden) {
   EXPECT_FALSE(bar.visible());
 }
 
+TEST_F(ProgressBarTest, EveryPropertyThatIsSetRedrawsItAndABreachDoesNot) {
+  int redrawn = 0;
+  bar.onRedraw = [&] { ++redrawn; };
+  bar.setValue(5);
+  bar.setStyle(1);
+  bar.setProgressLook(2);
+  bar.setMin(1);
+  bar.setMax(50);
+  EXPECT_EQ(redrawn, 5);
+  EXPECT_EQ(bar.style(), 1);
+  EXPECT_EQ(bar.progressLook(), 2);
+  bar.setValue(0);
+  bar.setMin(51);
+  bar.setMin(-1);
+  bar.setMax(0);
+  EXPECT_EQ(redrawn, 5);
+  EXPECT_EQ(dialogs.boxes.size(), 4u);
+}
+
+TEST_F(ProgressBarTest, AFreshBarHasItsDefaultsInTheBag) {
+  PropertyBag bag;
+  bar.writeProperties(bag);
+  EXPECT_EQ(
+      bag,
+      (PropertyBag{
+          {"Value", "0"}, {"Style", "0"}, {"ProgressLook", "0"}, {"Min", "0"}, {"Max", "100"}}));
+}
+
+TEST_F(ProgressBarTest, ReadsBackWhatItWroteAndDefaultsForTheRest) {
+  bar.setMin(10);
+  bar.setMax(20);
+  bar.setValue(15);
+  bar.setStyle(3);
+  bar.setProgressLook(4);
+  PropertyBag bag;
+  bar.writeProperties(bag);
+  ProgressBar other(dialogs);
+  other.readProperties(bag);
+  EXPECT_EQ(other.min(), 10);
+  EXPECT_EQ(other.max(), 20);
+  EXPECT_EQ(other.value(), 15);
+  EXPECT_EQ(other.style(), 3);
+  EXPECT_EQ(other.progressLook(), 4);
+  other.readProperties({});
+  EXPECT_EQ(other.min(), 0);
+  EXPECT_EQ(other.max(), 100);
+  EXPECT_EQ(other.value(), 0);
+  EXPECT_EQ(other.style(), 0);
+  EXPECT_EQ(other.progressLook(), 0);
+  EXPECT_TRUE(dialogs.boxes.empty());
+}
+
 }  // namespace
 }  // namespace tavr

@@ -16,6 +16,9 @@ class RecordedDesktop : public Desktop {
   void addTrayIcon(std::string_view tool_tip) override {
     calls.push_back("add " + std::string(tool_tip));
   }
+  void changeTrayIcon(std::string_view tool_tip) override {
+    calls.push_back("change " + std::string(tool_tip));
+  }
   void removeTrayIcon() override { calls.push_back("remove"); }
   std::optional<std::string> chooseFile(std::string_view, std::string_view) override { return {}; }
 
@@ -77,7 +80,7 @@ TEST(TrayArea, ANewToolTipReachesTheShownIconOnly) {
   EXPECT_EQ(desktop.calls, Calls{});
   tray.setVisible(true);
   tray.setToolTip("two");
-  EXPECT_EQ(desktop.calls, (Calls{"add one", "remove", "add two"}));
+  EXPECT_EQ(desktop.calls, (Calls{"add one", "change two"}));
 }
 
 TEST(TrayArea, WithoutAPictureTheIconHides) {
@@ -86,7 +89,9 @@ TEST(TrayArea, WithoutAPictureTheIconHides) {
   tray.setVisible(true);
   tray.setIcon("other.ico");
   EXPECT_TRUE(tray.visible());
-  EXPECT_EQ(tray.record().flags, 3u);
+  // A change names only what is another.
+  EXPECT_EQ(tray.record().flags, TrayArea::kFlagIcon);
+  EXPECT_EQ(desktop.calls, (Calls{"add ", "change "}));
   tray.setIcon("");
   EXPECT_FALSE(tray.visible());
   EXPECT_EQ(desktop.calls.back(), "remove");
@@ -120,6 +125,44 @@ TEST(TrayArea, TakesTheSizeOfItsPictureOnce) {
   tray.firstShow(40, 50);
   EXPECT_EQ(tray.box.width, 16);
   EXPECT_EQ(tray.box.height, 18);
+}
+
+TEST(TrayArea, APictureForAnIconOutOfSightWaitsForTheNextShow) {
+  RecordedDesktop desktop;
+  TrayArea tray(desktop);
+  tray.setIcon("other.ico");
+  EXPECT_EQ(desktop.calls, Calls{});
+  tray.setVisible(true);
+  EXPECT_EQ(tray.record().flags, 3u);
+}
+
+TEST(TrayArea, EveryShowTakesAnotherIdentifier) {
+  RecordedDesktop desktop;
+  TrayArea tray(desktop);
+  tray.setVisible(true);
+  const std::uint32_t first = tray.record().id;
+  tray.setVisible(false);
+  tray.setVisible(true);
+  EXPECT_NE(tray.record().id, first);
+}
+
+TEST(TrayArea, StoresItsPropertiesUnderTheirNames) {
+  RecordedDesktop desktop;
+  TrayArea tray(desktop);
+  PropertyBag bag;
+  tray.writeProperties(bag);
+  EXPECT_EQ(bag, (PropertyBag{{"Icon", ""}, {"ToolTip", ""}, {"Visible", "False"}}));
+  tray.setIcon("i.ico");
+  tray.setToolTip("tip");
+  tray.setVisible(true);
+  tray.writeProperties(bag);
+  TrayArea other(desktop);
+  other.readProperties(bag);
+  EXPECT_EQ(other.icon(), "i.ico");
+  EXPECT_EQ(other.toolTip(), "tip");
+  EXPECT_TRUE(other.visible());
+  other.readProperties({});
+  EXPECT_FALSE(other.visible());
 }
 
 }  // namespace
