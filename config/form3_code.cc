@@ -5,23 +5,21 @@
 #include "basic/number.h"
 #include "basic/resume_next.h"
 #include "basic/text.h"
-#include "basic/utf.h"
 #include "config/language.h"
 #include "config/look_color.h"
+#include "services/program_folder.h"
 #include "services/settings_keys.h"
 
 namespace tavr {
 
 namespace {
 
-constexpr int kHidden = 0;  // window style of a program
-
 constexpr int kAtShutdown = 1;
 constexpr int kSecureErasing = 3;
 constexpr int kAtStartUp = 4;
 constexpr int kStealth = 5;
 
-constexpr std::string_view kHelpFile = "\\tavrwork-helpdoc.chm>sec";
+constexpr std::string_view kHelpFile = "tavrwork-helpdoc.chm>sec";
 constexpr std::uint32_t kHelpContext = 15;  // the command: open at a number
 constexpr std::uint32_t kHelpOfOptions = 23;
 
@@ -69,22 +67,6 @@ void Form3Code::connectPanels() {
     form.Toolbar1[at(i)].onClick = [this, i] { Toolbar1_ButtonClick(i); };
   }
   form.Timer1.onTick = [this] { Timer1_Timer(); };
-}
-
-void Form3Code::connectSchedule() {
-  for (OptionButton* option : form.options()) {
-    option->onSelect = [this, option] {
-      for (OptionButton* other : form.options()) {
-        if (other != option) other->setValue(false);
-      }
-    };
-  }
-  for (std::size_t i = 0; i < form.intervals().size(); ++i) {
-    Form3::CaretBox* const box = form.intervals().at(i);
-    ScrollBar* const bar = form.scrollBars().at(i);
-    box->onChange = [box] { box->caret = utf16Length(box->text()); };
-    bar->onChange = [box, bar] { box->setText(numberText(bar->value())); };
-  }
 }
 
 void Form3Code::connectSaving() {
@@ -146,16 +128,6 @@ void Form3Code::readBox(int index) {
   form.Check1[at(index)].setValue(value);
 }
 
-void Form3Code::readSchedule() {
-  const double kind = Val(context_.registry.setting(settings::kTimerKey, "option"));
-  const std::string value = context_.registry.setting(settings::kTimerKey, "value");
-  for (std::size_t i = 0; i < form.options().size(); ++i) {
-    if (kind != static_cast<double>(i + 1)) continue;
-    form.options().at(i)->setValue(true);
-    if (i < form.intervals().size()) form.intervals().at(i)->setText(numberText(Val(value)));
-  }
-}
-
 // A combo box takes any text: one that is not stored leaves it empty.
 void Form3Code::fillCombos() {
   for (int passes = 1; passes <= 10; ++passes) form.Combo1.items.push_back(numberText(passes));
@@ -170,17 +142,6 @@ void Form3Code::Check1_Click(int index) {
   const int value = form.Check1[at(index)].value();
   context_.registry.saveSetting(settings::kOptionsKey, numberText(index), numberText(value));
   if (index == kAtStartUp && value != 2) setLogOnTask(value == 1);
-}
-
-// Without a force switch a task that is there already stays as it is; the
-// answer of neither is looked at.
-void Form3Code::setLogOnTask(bool on) {
-  Machine& machine = context_.machine;
-  const std::string command =
-      on ? "schtasks /create /SC ONLOGON /rl highest /tn \"Tavrwork Spoorwipe\" /tr \"'" +
-               machine.environment.appPath() + "\\tavrwipe.exe s'\""
-         : "schtasks /Delete /TN \"Tavrwork Spoorwipe\" /F";
-  machine.shell.run(command, kHidden);
 }
 
 void Form3Code::Label2_Click(int index) {
@@ -202,8 +163,8 @@ void Form3Code::Toolbar1_ButtonClick(int index) {
 }
 
 void Form3Code::openHelp() {
-  context_.machine.shell.htmlHelp(context_.machine.environment.appPath() + std::string(kHelpFile),
-                                  kHelpContext, kHelpOfOptions);
+  context_.machine.shell.htmlHelp(programFile(context_.machine, kHelpFile), kHelpContext,
+                                  kHelpOfOptions);
 }
 
 void Form3Code::showPanel(Frame& shown) {
@@ -247,50 +208,5 @@ void Form3Code::chameleonButton32_Click() {
 }
 
 void Form3Code::Timer1_Timer() { form.shadow = true; }
-
-ScheduleKind Form3Code::selectedKind() const {
-  const OptionButton* const options[] = {&form.Option1, &form.Option2, &form.Option3, &form.Option4,
-                                         &form.Option5};
-  for (std::size_t i = 0; i < std::size(options); ++i) {
-    if (options[i]->value()) return static_cast<ScheduleKind>(i + 1);
-  }
-  return ScheduleKind::kNone;
-}
-
-std::string Form3Code::selectedInterval(ScheduleKind kind) {
-  if (kind == ScheduleKind::kNone) return "";
-  return form.intervals().at(static_cast<std::size_t>(kind) - 1)->text();
-}
-
-void Form3Code::chameleonButton5_Click() {
-  const RegistryLayer& registry = context_.registry;
-  Locale& locale = context_.machine.locale;
-  const LocalTime now = context_.machine.clock.now();
-  const ScheduleKind kind = selectedKind();
-  SavedSchedule saved = savedSchedule(locale, now, kind, selectedInterval(kind));
-  registry.fDeleteValue("HKLM", settings::kRunKeyOfNt, settings::kRunValue);
-  registry.fDeleteValue("HKLM", settings::kRunKey, settings::kRunValue);
-  if (form.Check1[kAtStartUp].value() == 1) {
-    saveTimer("winstart", "1");
-    saved.option = numberText(static_cast<int>(ScheduleKind::kWindowsStart));
-    saved.value = "0";
-  } else if (form.Check1[kAtStartUp].value() == 0) {
-    saveTimer("winstart", "0");
-  }
-  saveTimer("startdate", locale.shortDate(now));
-  saveTimer("starttime", locale.longTime(now));
-  saveTimer("option", saved.option);
-  saveTimer("value", saved.value);
-  saveTimer("min", numberText(now.minute));
-  saveTimer("hour", numberText(now.hour));
-  saveTimer("nextmin", saved.nextmin);
-  for (const std::string_view name : {"nexthoure", "nextday", "nextweek", "nextmnth"}) {
-    saveTimer(name, saved.slot);
-  }
-}
-
-void Form3Code::saveTimer(std::string_view name, std::string_view text) {
-  context_.registry.saveSetting(settings::kTimerKey, name, text);
-}
 
 }  // namespace tavr

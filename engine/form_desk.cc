@@ -29,12 +29,16 @@ FormDesk::~FormDesk() = default;
 // Loading is finished before the form is seen.
 template <class Code>
 Code& FormDesk::open(std::unique_ptr<Code>& code) {
-  if (!code) {
-    code = std::make_unique<Code>(context_);
-    code->Form_Load();
+  if (code) {
+    code->form.visible = true;
+    return *code;
   }
-  code->form.visible = true;
-  return *code;
+  code = std::make_unique<Code>(context_);
+  Code& opened = *code;
+  opened.Form_Load();
+  // The loading pumps: the hot key may have unloaded the form meanwhile.
+  if (code.get() == &opened) opened.form.visible = true;
+  return opened;
 }
 
 // The handler that closes a form still stands in its code: the object stays.
@@ -42,6 +46,9 @@ template <class Code>
 void FormDesk::leave(std::unique_ptr<Code>& code) {
   if (!code) return;
   code->form.visible = false;
+  for (Control* const control : code->form.controls()) {
+    if (auto* const timer = dynamic_cast<FormTimer*>(control)) timer->setEnabled(false);
+  }
   unloaded_.emplace_back(std::move(code));
 }
 

@@ -1,6 +1,8 @@
 #include "forms/form2.h"
 
+#include <cstddef>
 #include <string>
+#include <utility>
 
 namespace tavr {
 
@@ -8,10 +10,23 @@ namespace {
 
 std::string numbered(const char* name, std::size_t number) { return name + std::to_string(number); }
 
+// A button is neither copied nor moved: each is made in its place.
+template <std::size_t kNumber>
+ChameleonButton button(Events& events) {
+  return ChameleonButton(events);
+}
+
+template <std::size_t... kNumbers>
+std::array<ChameleonButton, sizeof...(kNumbers)> buttons(
+    Events& events, std::index_sequence<kNumbers...> /*numbers*/) {
+  return {{button<kNumbers>(events)...}};
+}
+
 }  // namespace
 
 Form2::Form2(Machine& machine)
     : Form("Form2", "Erasing Settings", 960, 560),
+      chameleonButton(buttons(machine.events, std::make_index_sequence<32>())),
       chameleonButton32(machine.events),
       File1(machine.files) {
   const std::span<const ControlDesign> design = form2Design();

@@ -29,9 +29,9 @@ struct Form2 : Form {
   Label Label222;  ///< Label222(1), the title
 
   Button cmd_plugin;
-  std::array<Button, 32> chameleonButton;  ///< chameleonButton1 to 31 at their numbers
-  ChameleonButton chameleonButton32;       ///< the close button of the title strip
-  std::array<Button, 8> Toolbar1;          ///< 1 to 7
+  std::array<ChameleonButton, 32> chameleonButton;  ///< chameleonButton1 to 31 at their numbers
+  ChameleonButton chameleonButton32;                ///< the close button of the title strip
+  std::array<Button, 8> Toolbar1;                   ///< 1 to 7
   Picture Image44;
 
   /// Frame1 to Frame9 at their numbers; only 9, 2 and 3 are within reach.

@@ -23,7 +23,19 @@ constexpr std::array<Interval, 5> kIntervals = {
 }  // namespace
 
 Form3::Form3(Events& events)
-    : Form("Form3", "Options", kForm3Width, kForm3Height), Timer1(events, kShadowInterval) {
+    : Form("Form3", "Options", kForm3Width, kForm3Height),
+      chameleonButton32(events),
+      chameleonButton8(events),
+      chameleonButton3(events),
+      chameleonButton6(events),
+      chameleonButton7(events),
+      chameleonButton4(events),
+      chameleonButton19(events),
+      chameleonButton9(events),
+      chameleonButton5(events),
+      chameleonButton1(events),
+      chameleonButton2(events),
+      Timer1(events, kShadowInterval) {
   placeAll();
   for (std::size_t i = 0; i < kIntervals.size(); ++i) {
     intervals().at(i)->setText(kIntervals.at(i).text);

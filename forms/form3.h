@@ -5,8 +5,8 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 
+#include "forms/chameleon_button.h"
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "platform/events.h"
@@ -16,12 +16,6 @@ namespace tavr {
 struct Form3 : Form {
   explicit Form3(Events& events);
 
-  /// The close button of the title strip, in the colour of the form.
-  struct CloseButton : Button {
-    std::int32_t color = 0;
-    std::int32_t hover_color = 0;
-  };
-
   /// A text box that keeps its caret where the code puts it.
   struct CaretBox : TextBox {
     std::size_t caret = 0;  ///< characters before it
@@ -29,11 +23,12 @@ struct Form3 : Form {
 
   // The title strip and the way to the panels.
   Picture Image1;
-  std::array<Label, 2> Label222;  ///< (1): the heading of the form
-  CloseButton chameleonButton32;
-  Button cmd_plugin, chameleonButton8;                          // General settings, Schedule
-  Button chameleonButton3, chameleonButton6, chameleonButton7;  // show a panel; hidden
-  Button chameleonButton4, chameleonButton19;                   // both leave the form and save
+  std::array<Label, 2> Label222;      ///< (1): the heading of the form
+  ChameleonButton chameleonButton32;  ///< the close button, in the colour of the form
+  Button cmd_plugin;                  ///< General settings
+  ChameleonButton chameleonButton8;   ///< Schedule
+  ChameleonButton chameleonButton3, chameleonButton6, chameleonButton7;  // show a panel; hidden
+  ChameleonButton chameleonButton4, chameleonButton19;                   // both leave and save
 
   // The panels: start page, schedule, general settings and in it security. The
   // toolbar's panel stands beside the form, where nobody reaches it.
@@ -45,16 +40,16 @@ struct Form3 : Form {
   std::array<Label, 20> Label2;  ///< 2, 3 and 6 to 19
   std::array<Label, 8> Label3;
 
-  ComboBox Combo1, Combo2;  ///< number of overwrites; letter of the hot key
-  Button chameleonButton9;  ///< saves both
+  ComboBox Combo1, Combo2;           ///< number of overwrites; letter of the hot key
+  ChameleonButton chameleonButton9;  ///< saves both
 
   OptionButton Option1, Option2, Option3, Option4, Option5, Option6;
   CaretBox Text1, Text2, Text3, Text4, Text5;
   ScrollBar VScroll1, VScroll2, VScroll3, VScroll4, VScroll5;
-  Button chameleonButton5;  ///< saves the schedule
+  ChameleonButton chameleonButton5;  ///< saves the schedule
 
-  TextBox Text10, Text20;                     ///< start page and window title of the browser
-  Button chameleonButton1, chameleonButton2;  // a blank page; saves both
+  TextBox Text10, Text20;                              ///< the browser's start page and title
+  ChameleonButton chameleonButton1, chameleonButton2;  // a blank page; saves both
 
   FormTimer Timer1;     ///< sets the shadow up
   bool shadow = false;  ///< a view draws the shadow behind the window
