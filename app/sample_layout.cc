@@ -113,12 +113,11 @@ void fillCaches(SampleTree& tree, std::size_t files) {
 
 }  // namespace
 
-void writeMachine(SampleTree& tree, std::size_t files, std::string_view language) {
+void writeMachine(SampleTree& tree, std::size_t files) {
   tree.write("machine.ini", kMachineIni);
   tree.write("registry.reg", machineRegistry());
   tree.write("processes.txt", kProcesses);
   tree.write("urlcache.txt", kUrlCache);
-  if (!language.empty()) tree.write("C/Program Files/Tavr Wipe/lang/english.ini", language);
   tree.write("C/$Recycle.Bin/S-1-5-21-2113004051-1874906722-903312647-1001/$I4T8ZQA.txt",
              recycleNote("C:\\Users\\user\\Documents\\shopping.txt", 34));
   for (const Wanted wanted : {Wanted::kAlways, Wanted::kMore}) {
@@ -126,6 +125,10 @@ void writeMachine(SampleTree& tree, std::size_t files, std::string_view language
     writeTraces(tree, windowsTraces(), wanted, files);
   }
   if (files > tree.files()) fillCaches(tree, files - tree.files());
+}
+
+void copyLanguages(SampleTree& tree, const std::string& from) {
+  tree.copyFiles(from, "C/Program Files/Tavr Wipe/lang");
 }
 
 void writeChromeCacheMachine(SampleTree& tree, std::size_t files) {

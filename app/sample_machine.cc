@@ -4,9 +4,6 @@
 #include <charconv>
 #include <cstdio>
 #include <exception>
-#include <fstream>
-#include <iterator>
-#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -17,13 +14,14 @@
 namespace {
 
 constexpr std::string_view kUsage =
-    "sample-machine DIR [--files N] [--seed S] [--language FILE] [--only chrome-cache]\n"
+    "sample-machine DIR [--files N] [--seed S] [--language DIR] [--only chrome-cache]\n"
     "\n"
     "Writes a machine folder into DIR, which must be empty or missing.\n"
     "  --files N            how many files in all (default 60, never fewer); what goes beyond\n"
     "                       the fixed traces fills the browsers' caches\n"
     "  --seed S             another machine of the same kind (default 1)\n"
-    "  --language FILE      the program's language file, copied to its folder\n"
+    "  --language DIR       a folder with the program's language files; copied to the machine,\n"
+    "                       where they come on top of the N files\n"
     "  --only chrome-cache  nothing but N files in Chrome's session folder, for measuring\n";
 
 constexpr std::size_t kFewestFiles = 60;
@@ -78,13 +76,6 @@ Options parse(std::span<char*> words) {
   return options;
 }
 
-std::string contentsOf(const std::string& path) {
-  if (path.empty()) return {};
-  std::ifstream file(path, std::ios::binary);
-  if (!file) throw std::runtime_error(path + ": cannot be read");
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -94,12 +85,12 @@ int main(int argc, char** argv) {
       std::fputs(kUsage.data(), stdout);
       return 0;
     }
-    const std::string language = contentsOf(options.language);
     tavr::sample::SampleTree tree(options.directory, options.seed);
     if (options.only_chrome_cache) {
       tavr::sample::writeChromeCacheMachine(tree, options.files);
     } else {
-      tavr::sample::writeMachine(tree, std::max(options.files, kFewestFiles), language);
+      if (!options.language.empty()) tavr::sample::copyLanguages(tree, options.language);
+      tavr::sample::writeMachine(tree, std::max(options.files, kFewestFiles));
     }
     std::printf("%s: %zu files\n", options.directory.c_str(), tree.files());
     return 0;

@@ -47,9 +47,12 @@ std::span<const TraceGroup> windowsTraces();
 std::string contentOf(const Trace& trace, Dice& dice);
 
 /// The whole believable machine with `files` files in all; never fewer than the
-/// fixed ones. `language` is the text of the program's language file, empty:
-/// there is none.
-void writeMachine(SampleTree& tree, std::size_t files, std::string_view language);
+/// fixed ones.
+void writeMachine(SampleTree& tree, std::size_t files);
+
+/// Puts the program's language files from the folder `from` where the program
+/// looks for them. They come on top of the machine's files.
+void copyLanguages(SampleTree& tree, const std::string& from);
 
 /// A machine that holds `files` cache files of Chrome and nothing else, for
 /// measuring. Its own two text files come on top.

@@ -10,6 +10,7 @@
 #include <fstream>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
 namespace tavr::sample {
 namespace {
@@ -75,6 +76,21 @@ void SampleTree::write(std::string_view path, std::string_view bytes) {
   file.close();
   if (!file) fail(full, errno);
   ++files_;
+}
+
+void SampleTree::copyFiles(const std::string& from, std::string_view to) {
+  std::error_code error;
+  std::vector<std::filesystem::path> found;
+  for (const auto& entry : std::filesystem::directory_iterator(from, error)) {
+    if (entry.is_regular_file()) found.push_back(entry.path());
+  }
+  if (error) fail(from, error.value());
+  if (found.empty()) throw std::runtime_error(from + ": holds no files");
+  const std::string target = makeFolder(to);
+  for (const std::filesystem::path& file : found) {
+    const std::string copy = target + "/" + file.filename().string();
+    if (!std::filesystem::copy_file(file, copy, error)) fail(copy, error.value());
+  }
 }
 
 }  // namespace tavr::sample

@@ -47,6 +47,10 @@ class SampleTree {
   /// has "/" between its names.
   void write(std::string_view path, std::string_view bytes);
 
+  /// Copies the files of a folder of this computer into one of the tree; they
+  /// are not counted. Raises std::runtime_error when there are none.
+  void copyFiles(const std::string& from, std::string_view to);
+
   /// A folder with the folders above it; gives its whole path.
   std::string makeFolder(std::string_view path);
 

@@ -58,7 +58,6 @@ class Form2Code {
   void downloadPlugIns();
   void runPlugInMaker();
   void openHelp();
-  std::string file(std::string_view name) const;
 
   FormContext& context_;
   PlugIns plug_ins_;

@@ -5,6 +5,7 @@
 #include "config/form2_code.h"
 #include "config/maker_site.h"
 #include "services/event_log.h"
+#include "services/program_folder.h"
 #include "tracks/primitives.h"
 
 namespace tavr {
@@ -19,10 +20,6 @@ constexpr std::uint32_t kHelpOfSettings = 22;
 constexpr std::string_view kDefinitions = "*.tv";
 
 }  // namespace
-
-std::string Form2Code::file(std::string_view name) const {
-  return context_.machine.environment.appPath() + "\\" + std::string(name);
-}
 
 void Form2Code::connectPlugIns() {
   auto& button = form.chameleonButton;
@@ -71,7 +68,9 @@ void Form2Code::deletePlugIn() {
     return machine.dialogs.messageBox(question, kYesNoQuestion, "") != kAnswerNo;
   });
   if (!confirmed) return;
-  const auto path = [&] { return file("plugins\\" + definitionOfSelectedRow() + ".tv"); };
+  const auto path = [&] {
+    return programFile(machine, "plugins\\" + definitionOfSelectedRow() + ".tv");
+  };
   on.next([&] { SetAttr(machine, path(), kArchive); });
   on.next([&] { Kill(machine, path()); });
 }
@@ -85,7 +84,9 @@ void Form2Code::showPlugInInfo() {
   std::string description;
   const int number = numbers.freeFile();
   on.next([&] {
-    numbers.open(number, file("plugins\\" + definitionOfSelectedRow() + ".tv"), OpenMode::kInput);
+    numbers.open(number,
+                 programFile(context_.machine, "plugins\\" + definitionOfSelectedRow() + ".tv"),
+                 OpenMode::kInput);
     for (std::string* line : {&title, &author, &description}) *line = numbers.lineInput(number);
   });
   on.next([&] { numbers.close(number); });
@@ -101,7 +102,7 @@ void Form2Code::importPlugIn() {
   const std::string_view path = Trim(*chosen);
   const std::string_view name = path.substr(path.find_last_of('\\') + 1);
   // A copy that fails is passed over like any other error of this form.
-  (void)machine.files.copy(path, file("plugins\\" + std::string(name)));
+  (void)machine.files.copy(path, programFile(machine, "plugins\\" + std::string(name)));
 }
 
 // The browser comes up behind a top-most form.
@@ -113,11 +114,13 @@ void Form2Code::downloadPlugIns() {
 }
 
 void Form2Code::runPlugInMaker() {
-  context_.machine.shell.execute("open", file("plug-in maker.exe"), kShowNormal);
+  context_.machine.shell.execute("open", programFile(context_.machine, "plug-in maker.exe"),
+                                 kShowNormal);
 }
 
 void Form2Code::openHelp() {
-  context_.machine.shell.htmlHelp(file("tavrwork-helpdoc.chm>sec"), kHelpContext, kHelpOfSettings);
+  context_.machine.shell.htmlHelp(programFile(context_.machine, "tavrwork-helpdoc.chm>sec"),
+                                  kHelpContext, kHelpOfSettings);
 }
 
 }  // namespace tavr

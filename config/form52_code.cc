@@ -5,6 +5,7 @@
 #include "basic/resume_next.h"
 #include "basic/text.h"
 #include "services/cookies_folder.h"
+#include "services/program_folder.h"
 
 namespace tavr {
 
@@ -65,10 +66,6 @@ Form52Code::Form52Code(FormContext& context)
   form.command2.onClick = [this] { command2_Click(); };
 }
 
-std::string Form52Code::file(std::string_view name) const {
-  return context_.machine.environment.appPath() + "\\" + std::string(name);
-}
-
 void Form52Code::Form_Load() { form.topmost = true; }
 
 void Form52Code::open(std::string_view heading, std::string_view mode) {
@@ -90,18 +87,11 @@ void Form52Code::Text1_Change() {
 // opening then fails and nothing is read. Lines are kept as they stand.
 void Form52Code::readKept(std::string_view name) {
   ResumeNext on;
-  const std::string path = file(name);
+  const std::string path = programFile(context_.machine, name);
   if (!on.met([&] { return FileLen(context_.machine, path) != 0; })) return;
-  FileNumbers& numbers = context_.numbers;
-  const int number = numbers.freeFile();
-  on.next([&] {
-    numbers.open(number, path, OpenMode::kInput);
-    while (!numbers.eof(number)) {
-      const std::string line = numbers.lineInput(number);
-      if (!Trim(line).empty()) form.List2.add(line);
-    }
+  forEachLine(context_.numbers, path, [&](const std::string& line) {
+    if (!Trim(line).empty()) form.List2.add(line);
   });
-  on.next([&] { numbers.close(number); });
 }
 
 void Form52Code::setDir1(std::string_view path) {
@@ -176,7 +166,7 @@ void Form52Code::writeKept(std::string_view name) {
   ResumeNext on;
   Machine& machine = context_.machine;
   FileNumbers& numbers = context_.numbers;
-  const std::string path = file(name);
+  const std::string path = programFile(context_.machine, name);
   on.next([&] { SetAttr(machine, path, kArchive); });
   on.next([&] { Kill(machine, path); });
   const int number = numbers.freeFile();

@@ -40,7 +40,6 @@ class Form52Code {
   void deleteSelected();
   void refresh();
   void ok();
-  std::string file(std::string_view name) const;
 
   FormContext& context_;
   // The form enumerates values with a copy of the routine that has its own text

@@ -10,6 +10,7 @@
 #include "forms/list_view.h"
 #include "forms/result_list.h"
 #include "services/file_statements.h"
+#include "services/program_folder.h"
 #include "services/settings_keys.h"
 
 namespace tavr {
@@ -123,7 +124,7 @@ void Language::apply(Form& form) {
   lang = setting("lang");
   if (form.name() != "frmabout") on.next([&] { langindex = toInteger(setting("langindex")); });
   file_name = "tavrwipe-" + lang + ".lang";
-  const std::string path = machine_.environment.appPath() + "\\lang\\" + file_name;
+  const std::string path = programFile(machine_, "lang\\" + file_name);
   if (on.met([&] { return Dir(machine_, path).empty(); })) return;
   const ControlFont font = captionFont(registry_, langcode);
   const std::span<const std::string_view> keys = languageKeys(form.name());

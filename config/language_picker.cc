@@ -8,6 +8,7 @@
 #include "basic/text.h"
 #include "config/language.h"
 #include "services/file_statements.h"
+#include "services/program_folder.h"
 #include "services/settings_keys.h"
 
 namespace tavr {
@@ -47,7 +48,7 @@ Label& LanguagePicker::row(int index) {
 void LanguagePicker::loadavlang() {
   ResumeNext on;
   Machine& machine = context_.machine;
-  const std::string path = machine.environment.appPath() + "\\lang\\data.lang";
+  const std::string path = programFile(machine, "lang\\data.lang");
   const bool missing = !on.met([&] { return !Dir(machine, path).empty(); });
   if (missing) return;
   const std::string list = readlangfile(machine, path, "lang", machine.environment.exeName());

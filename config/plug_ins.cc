@@ -5,6 +5,7 @@
 #include "basic/text.h"
 #include "basic/utf.h"
 #include "services/cookies_folder.h"
+#include "services/program_folder.h"
 #include "services/settings_keys.h"
 #include "tracks/primitives.h"
 
@@ -14,6 +15,10 @@ namespace {
 
 constexpr std::uint32_t kArchive = 32;
 constexpr int kNumber = 1;
+constexpr std::string_view kSelection = "slectplg.cln";
+constexpr std::string_view kFileList = "plgfile.cln";
+constexpr std::string_view kFolderList = "plgfoldr.cln";
+constexpr std::string_view kRegistryList = "plgreg.cln";
 constexpr std::size_t kExtension = 3;   // ".tv"
 constexpr std::size_t kFileHead = 5;    // "file="
 constexpr std::size_t kFileTail = 2;    // two characters that are not looked at
@@ -27,10 +32,6 @@ std::string_view withoutExtension(std::string_view name) {
 
 }  // namespace
 
-std::string PlugIns::file(std::string_view name) const {
-  return machine_.environment.appPath() + "\\" + std::string(name);
-}
-
 void PlugIns::listDefinitions() {
   ResumeNext on;
   controls_.View1.clear();
@@ -40,7 +41,7 @@ void PlugIns::listDefinitions() {
   }
   bool listed = false;
   on.next([&] {
-    controls_.File1.setPath(file("plugins"));
+    controls_.File1.setPath(programFile(machine_, "plugins"));
     listed = true;
   });
   controls_.File1.setPattern("*.tv");
@@ -53,25 +54,22 @@ void PlugIns::listDefinitions() {
   }
 }
 
-bool PlugIns::hasSelection() const { return !Dir(machine_, file("slectplg.cln")).empty(); }
+bool PlugIns::hasSelection() const {
+  return !Dir(machine_, programFile(machine_, kSelection)).empty();
+}
 
 void PlugIns::restoreTicks(const std::function<void(const std::string& text)>& ticked) {
   ResumeNext on;
-  const int number = numbers_.freeFile();
-  on.next([&] {
-    numbers_.open(number, file("slectplg.cln"), OpenMode::kInput);
-    while (!numbers_.eof(number)) {
-      machine_.events.doEvents();
-      const std::string line(Trim(LCase(numbers_.lineInput(number))));
-      for (int row = 1; row <= controls_.View1.count(); ++row) {
-        ListRow& item = controls_.View1.item(row);
-        if (!on.met([&] { return Like(Trim(LCase(item.text)), line); })) continue;
-        item.checked = true;
-        ticked(item.text);
-      }
+  forEachLine(numbers_, programFile(machine_, kSelection), [&](const std::string& line) {
+    machine_.events.doEvents();
+    const std::string lower = LCase(line);
+    for (int row = 1; row <= controls_.View1.count(); ++row) {
+      ListRow& item = controls_.View1.item(row);
+      if (!on.met([&] { return Like(Trim(LCase(item.text)), Trim(lower)); })) continue;
+      item.checked = true;
+      ticked(item.text);
     }
   });
-  on.next([&] { numbers_.close(number); });
 }
 
 void PlugIns::startFile(const std::string& path) {
@@ -82,7 +80,7 @@ void PlugIns::startFile(const std::string& path) {
 
 void PlugIns::writeSelection() {
   ResumeNext on;
-  const std::string path = file("slectplg.cln");
+  const std::string path = programFile(machine_, kSelection);
   startFile(path);
   numbers_.Reset();
   on.next([&] { numbers_.open(kNumber, path, OpenMode::kOutput); });
@@ -132,20 +130,15 @@ void PlugIns::readLine(const std::string& line, bool& files, bool& registry) {
 }
 
 void PlugIns::readDefinition(const std::string& name) {
-  ResumeNext on;
-  const int number = numbers_.freeFile();
+  const std::string path = programFile(machine_, "plugins\\" + std::string(Trim(name)) + ".tv");
   bool files = false;
   bool registry = false;
-  on.next([&] {
-    numbers_.open(number, file("plugins\\" + std::string(Trim(name)) + ".tv"), OpenMode::kInput);
-    while (!numbers_.eof(number)) readLine(numbers_.lineInput(number), files, registry);
-  });
-  on.next([&] { numbers_.close(number); });
+  forEachLine(numbers_, path, [&](const std::string& line) { readLine(line, files, registry); });
 }
 
 void PlugIns::writeList(const TextList& list, std::string_view name) {
   ResumeNext on;
-  const std::string path = file(name);
+  const std::string path = programFile(machine_, name);
   startFile(path);
   const int number = numbers_.freeFile();
   on.next([&] { numbers_.open(number, path, OpenMode::kOutput); });
@@ -166,47 +159,35 @@ void PlugIns::Command1() {
     const ListRow& item = controls_.View1.item(row);
     if (item.checked) readDefinition(item.text);
   }
-  writeList(controls_.List4, "plgfile.cln");
-  writeList(controls_.List5, "plgfoldr.cln");
-  writeList(controls_.List6, "plgreg.cln");
+  writeList(controls_.List4, kFileList);
+  writeList(controls_.List5, kFolderList);
+  writeList(controls_.List6, kRegistryList);
 }
 
-namespace {
-
-// Every line of the file; false when there is no such file.
-bool readLines(Machine& machine, FileNumbers& numbers, const std::string& path,
-               const std::function<void(const std::string&)>& line) {
-  if (Dir(machine, path).empty()) return false;
-  ResumeNext on;
-  const int number = numbers.freeFile();
-  on.next([&] {
-    numbers.open(number, path, OpenMode::kInput);
-    while (!numbers.eof(number)) line(numbers.lineInput(number));
-  });
-  on.next([&] { numbers.close(number); });
+bool PlugIns::readList(std::string_view name,
+                       const std::function<void(const std::string& line)>& line) {
+  const std::string path = programFile(machine_, name);
+  if (Dir(machine_, path).empty()) return false;
+  forEachLine(numbers_, path, line);
   return true;
 }
-
-}  // namespace
 
 void PlugIns::Command3() {
   for (TextList* list : {&controls_.List7, &controls_.List8, &controls_.List9, &controls_.List10,
                          &controls_.List11}) {
     list->clear();
   }
-  const bool files =
-      readLines(machine_, numbers_, file("plgfile.cln"), [&](const std::string& line) {
-        if (!Trim(line).empty()) controls_.List7.add(line);
-      });
+  const bool files = readList(kFileList, [&](const std::string& line) {
+    if (!Trim(line).empty()) controls_.List7.add(line);
+  });
   if (!files) return;
   TextList* const fields[] = {&controls_.List8, &controls_.List9, &controls_.List10};
   std::size_t field = 0;
-  const bool folders = readLines(machine_, numbers_, file("plgfoldr.cln"),
-                                 [&](const std::string& line) { fields[field++ % 3]->add(line); });
+  const bool folders =
+      readList(kFolderList, [&](const std::string& line) { fields[field++ % 3]->add(line); });
   while (field % 3 != 0) fields[field++ % 3]->add("");  // a short last record
   if (!folders) return;
-  readLines(machine_, numbers_, file("plgreg.cln"),
-            [&](const std::string& line) { controls_.List11.add(line); });
+  readList(kRegistryList, [&](const std::string& line) { controls_.List11.add(line); });
 }
 
 int search_found(const TextList& list6, std::string_view name) {

@@ -56,12 +56,13 @@ class PlugIns {
   void Command3();
 
  private:
-  std::string file(std::string_view name) const;
   void writeSelection();
   void readDefinition(const std::string& name);
   void readLine(const std::string& line, bool& files, bool& registry);
   void addFolder(std::string_view line);
   void writeList(const TextList& list, std::string_view name);
+  // False when there is no such file.
+  bool readList(std::string_view name, const std::function<void(const std::string& line)>& line);
   void startFile(const std::string& path);
 
   Machine& machine_;

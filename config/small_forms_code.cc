@@ -9,6 +9,7 @@
 #include "config/language.h"
 #include "config/look_color.h"
 #include "config/maker_site.h"
+#include "services/program_folder.h"
 #include "services/settings_keys.h"
 
 namespace tavr {
@@ -94,7 +95,7 @@ void FrmaboutCode::Form_Load() {
 void FrmaboutCode::Label2_Click(int index) {
   const std::string site(kMakerSite);
   const std::array<std::string, 4> targets = {
-      context_.machine.environment.appPath() + "\\tavrlocale.exe",
+      programFile(context_.machine, "tavrlocale.exe"),
       site + std::string(kSupportPage),
       site + std::string(kPlugInPage),
       site,

@@ -7,6 +7,7 @@
 #include "config/maker_site.h"
 #include "engine/log_commands.h"
 #include "engine/runs.h"
+#include "services/program_folder.h"
 #include "tracks/primitives.h"
 
 namespace tavr {
@@ -70,11 +71,11 @@ void connectCore(Program& program) {
   form.chameleonButton1.onClick = [&program] { viewLog(program); };
   form.chameleonButton2.onClick = [&program] { clearLog(program); };
   form.chameleonButton3.onClick = [&program] {
-    program.machine.shell.run(program.file("plug-in maker.exe"), kStyleNone);
+    program.machine.shell.run(programFile(program.machine, "plug-in maker.exe"), kStyleNone);
   };
   form.chameleonButton4.onClick = [&program] {
-    program.machine.shell.htmlHelp(program.file("tavrwork-helpdoc.chm") + ">sec", kHelpContext,
-                                   kMainWindowTopic);
+    program.machine.shell.htmlHelp(programFile(program.machine, "tavrwork-helpdoc.chm") + ">sec",
+                                   kHelpContext, kMainWindowTopic);
   };
   form.chameleonButton5.onClick = [&program] { eraseRun(program); };
   form.chameleonButton6.onClick = [&program] { testRun(program); };
@@ -107,7 +108,7 @@ void connectToolbar(Program& program) {
   leadsTo(tool(form, 11), form.chameleonButton1);
   leadsTo(tool(form, 12), form.chameleonButton2);
   tool(form, 14).onClick = [&program] {
-    program.machine.shell.run(program.file("tavrclean.exe"), kStyleNormal);
+    program.machine.shell.run(programFile(program.machine, "tavrclean.exe"), kStyleNormal);
   };
 }
 

@@ -2,6 +2,7 @@
 
 #include "basic/number.h"
 #include "basic/resume_next.h"
+#include "services/program_folder.h"
 #include "services/settings_keys.h"
 
 namespace tavr {
@@ -71,14 +72,18 @@ void writeResultFile(Program& program) {
   const Form1& form = program.form;
   const std::string line = numberText(total(form.txtfilecount) + total(form.txtregcount)) + "|" +
                            numberText(total(form.txtfilesize));
-  on.next([&] { program.numbers.open(kNumber, program.file("eresst.txt"), OpenMode::kOutput); });
+  on.next([&] {
+    program.numbers.open(kNumber, programFile(program.machine, "eresst.txt"), OpenMode::kOutput);
+  });
   on.next([&] { program.numbers.print(kNumber, line); });
   on.next([&] { program.numbers.close(kNumber); });
 }
 
 void writeResultRows(Program& program) {
   ResumeNext on;
-  on.next([&] { program.numbers.open(kNumber, program.file("eresetmp.txt"), OpenMode::kOutput); });
+  on.next([&] {
+    program.numbers.open(kNumber, programFile(program.machine, "eresetmp.txt"), OpenMode::kOutput);
+  });
   for (int row = 1; row <= program.form.View1.count(); ++row) {
     on.next([&] {
       program.numbers.print(kNumber, program.form.View200.text(static_cast<std::size_t>(row)));

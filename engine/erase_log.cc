@@ -2,6 +2,7 @@
 
 #include "basic/resume_next.h"
 #include "basic/text.h"
+#include "services/program_folder.h"
 
 namespace tavr {
 
@@ -39,7 +40,7 @@ void printRows(Program& program) {
 void appendEraseLog(Program& program) {
   ResumeNext on;
   const Form1& form = program.form;
-  const std::string path = program.file("eraselog.txt");
+  const std::string path = programFile(program.machine, "eraselog.txt");
   const auto print = [&](const std::string& line) {
     on.next([&] { program.numbers.print(kNumber, line); });
   };

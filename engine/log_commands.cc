@@ -1,6 +1,7 @@
 #include "engine/log_commands.h"
 
 #include "basic/resume_next.h"
+#include "services/program_folder.h"
 #include "tracks/primitives.h"
 
 namespace tavr {
@@ -13,12 +14,12 @@ constexpr int kNumber = 1;
 }  // namespace
 
 void viewLog(Program& program) {
-  program.machine.shell.execute("", program.file("eraselog.txt"), kShowNormal);
+  program.machine.shell.execute("", programFile(program.machine, "eraselog.txt"), kShowNormal);
 }
 
 void clearLog(Program& program) {
   ResumeNext on;
-  const std::string path = program.file("eraselog.txt");
+  const std::string path = programFile(program.machine, "eraselog.txt");
   on.next([&] { Kill(program.machine, path); });
   on.next([&] { program.numbers.open(kNumber, path, OpenMode::kOutput); });
   on.next([&] { program.numbers.close(kNumber); });

@@ -43,8 +43,4 @@ Program::Program(Machine& on)
   connectWindow(*this);
 }
 
-std::string Program::file(std::string_view name) const {
-  return machine.environment.appPath() + "\\" + std::string(name);
-}
-
 }  // namespace tavr

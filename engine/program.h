@@ -4,8 +4,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <string>
-#include <string_view>
 
 #include "config/language.h"
 #include "config/plug_ins.h"
@@ -54,9 +52,6 @@ struct Program {
   // Where the settings button stood on the screen at load, in twips.
   int settings_button_left = 0;
   int settings_button_top = 0;
-
-  /// A file of the program's folder.
-  std::string file(std::string_view name) const;
 
   /// Told when a run has finished, with its tables still in place. A view's
   /// notice: nothing of the program depends on it.

@@ -11,6 +11,7 @@
 #include "engine/task_table.h"
 #include "engine/window.h"
 #include "services/access.h"
+#include "services/program_folder.h"
 #include "services/settings_keys.h"
 
 namespace tavr {
@@ -180,7 +181,7 @@ void Form_Load(Program& program) {
     search_found(form.List6, name);
   };
   form.stopflag = 0;
-  form.Gif89a1.file = program.file("search.gif");
+  form.Gif89a1.file = programFile(program.machine, "search.gif");
   form.Label222.caption = numberText(program.machine.clock.now().year);
   // The columns are no buttons: nothing sorts by them.
   for (ListHeader* header : {&form.View100.header, &form.View200.header}) {

@@ -4,6 +4,7 @@
 #include "basic/resume_next.h"
 #include "basic/text.h"
 #include "engine/run_tables.h"
+#include "services/program_folder.h"
 #include "services/settings_keys.h"
 
 namespace tavr {
@@ -14,17 +15,11 @@ namespace {
 // cannot be read, which counts as met, and then it cannot be opened either.
 void addPlugInRows(Program& program) {
   ResumeNext on;
-  const std::string path = program.file("slectplg.cln");
+  const std::string path = programFile(program.machine, "slectplg.cln");
   if (!on.met([&] { return FileLen(program.machine, path) > 0; })) return;
-  const int number = program.numbers.freeFile();
-  on.next([&] {
-    program.numbers.open(number, path, OpenMode::kInput);
-    while (!program.numbers.eof(number)) {
-      const std::string line = program.numbers.lineInput(number);
-      if (!Trim(line).empty()) program.form.View100.add(line, kPlugInIcon);
-    }
+  forEachLine(program.numbers, path, [&](const std::string& line) {
+    if (!Trim(line).empty()) program.form.View100.add(line, kPlugInIcon);
   });
-  on.next([&] { program.numbers.close(number); });
 }
 
 }  // namespace

@@ -148,4 +148,15 @@ void FileNumbers::put(int file, double position, std::string_view bytes) {
   raiseFileError(number(file).file->write(static_cast<std::uint64_t>(position) - 1, bytes));
 }
 
+void forEachLine(FileNumbers& numbers, std::string_view path,
+                 const std::function<void(const std::string& line)>& line) {
+  ResumeNext on;
+  const int number = numbers.freeFile();
+  on.next([&] {
+    numbers.open(number, path, OpenMode::kInput);
+    while (!numbers.eof(number)) line(numbers.lineInput(number));
+  });
+  on.next([&] { numbers.close(number); });
+}
+
 }  // namespace tavr

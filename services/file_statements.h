@@ -1,8 +1,10 @@
 // The runtime's file statements. Each raises a RuntimeError when it cannot be
 // carried out (53 no such file, 76 no such folder, 70 held open, 75 refused,
 // 52 no such number, 55 number in use), and knows nothing of what it is for.
+// forEachLine is put together of them and raises nothing.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -64,5 +66,11 @@ class FileNumbers {
   Machine& machine_;
   std::map<int, Number> numbers_;
 };
+
+/// Opens the file under a free number, hands over its lines one by one and
+/// closes it. An error ends the reading and is passed over, one of `line` too: a
+/// file that cannot be opened has no lines.
+void forEachLine(FileNumbers& numbers, std::string_view path,
+                 const std::function<void(const std::string& line)>& line);
 
 }  // namespace tavr

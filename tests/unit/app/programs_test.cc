@@ -189,6 +189,37 @@ TEST_F(SampleMachine, AnEmptyFolderIsTaken) {
   EXPECT_EQ(sampleMachine(folder("m")).status, 0);
 }
 
+TEST_F(SampleMachine, TheLanguageFilesComeOnTop) {
+  const std::string lang = TAVR_SOURCE_DIR "/lang";
+  const Outcome outcome = sampleMachine(folder("m") + " --language " + lang);
+  EXPECT_EQ(outcome.status, 0) << outcome.out;
+  const auto shipped = tree(lang);
+  EXPECT_EQ(tree(folder("m")).size(), 60u + shipped.size());
+  EXPECT_EQ(tree(folder("m") + "/C/Program Files/Tavr Wipe/lang"), shipped);
+}
+
+TEST_F(SampleMachine, LanguageFilesThatAreNotThereAreAnError) {
+  fs::create_directory(folder("empty"));
+  for (const char* name : {"missing", "empty"}) {
+    const Outcome outcome =
+        sampleMachine(folder(std::string("m-") + name) + " --language " + folder(name));
+    EXPECT_EQ(outcome.status, 2) << name;
+    EXPECT_THAT(outcome.out, StartsWith("sample-machine: " + folder(name) + ": ")) << name;
+  }
+}
+
+// A person who plays on the sample finds every language, and the forms take the
+// one that is picked.
+TEST_F(SampleMachine, ShowsTheLanguagesToAPerson) {
+  ASSERT_EQ(sampleMachine(folder("m") + " --language " TAVR_SOURCE_DIR "/lang").status, 0);
+  std::ofstream(folder("play")) << "click Form1.chameleonButton12\n"
+                                   "expect Form1.lbllanguage(11) العربية\n"
+                                   "click Form1.lbllanguage(1)\n"
+                                   "expect Form1.cmd_settings Löscheinstellungen\n";
+  const Outcome outcome = tavrwipe("--machine " + folder("m") + " --play " + folder("play"));
+  EXPECT_EQ(outcome.status, 0) << outcome.out;
+}
+
 TEST_F(SampleMachine, AWrongCallIsRefused) {
   for (const std::string& words :
        {std::string(""), folder("m") + " --files many", folder("m") + " --files",

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -289,6 +290,29 @@ TEST_F(Form2PlugIns, InfoOfAShortDefinitionShowsWhatThereIs) {
   button(10).press();
   EXPECT_THAT(stage().host.messages, ElementsAre(FakeFormHost::Message{
                                          "Spoorwipe", "\r\n\r  Designed By : ", "Only a title"}));
+}
+
+TEST_F(Form2PlugIns, InfoWithoutASelectedRowIsTheEmptyFrame) {
+  definitions();
+  button(31).press();
+  button(10).press();
+  EXPECT_THAT(stage().host.messages,
+              ElementsAre(FakeFormHost::Message{"Spoorwipe", "\r\n\r  Designed By : ", ""}));
+}
+
+// The form's rows and the main form's are two lists over one set of files: the
+// main form lists anew, so a definition that has gone meanwhile leaves them.
+TEST_F(Form2PlugIns, ARunRewritesTheFilesFromTheMainFormsRows) {
+  definitions();
+  button(31).press();
+  tick(1, true);
+  tick(2, true);
+  EXPECT_EQ(workFile("slectplg.cln"), "alpha\r\nbeta\r\n");
+  std::filesystem::remove(machine.host(kPlugIns + "alpha.tv"));
+  stage().program.form.chameleonButton6.press();
+  EXPECT_EQ(workFile("slectplg.cln"), "beta\r\n");
+  EXPECT_EQ(workFile("plgfile.cln"), "");
+  EXPECT_THAT(ticked(), ElementsAre("alpha", "beta"));
 }
 
 TEST_F(Form2PlugIns, DeleteAsksWithTheTextsOfTheLanguage) {

@@ -143,6 +143,35 @@ TEST_F(FileStatementsTest, LinesAreReadWithoutTheirEnds) {
   EXPECT_EQ(errorOf([&] { numbers().lineInput(1); }), kErrPastEnd);
 }
 
+TEST_F(FileStatementsTest, EveryLineOfAFileIsHandedOverAndTheNumberIsFreeAgain) {
+  machine.file("C:\\d\\a.txt", "one\r\n\r\ntwo");
+  numbers().open(1, "C:\\d\\a.txt", OpenMode::kInput);
+  std::vector<std::string> lines;
+  forEachLine(numbers(), "C:\\d\\a.txt", [&](const std::string& line) {
+    EXPECT_EQ(numbers().freeFile(), 3);
+    lines.push_back(line);
+  });
+  EXPECT_EQ(lines, std::vector<std::string>({"one", "", "two"}));
+  EXPECT_EQ(numbers().freeFile(), 2);
+}
+
+TEST_F(FileStatementsTest, AFileThatCannotBeOpenedHasNoLines) {
+  forEachLine(numbers(), "C:\\d\\missing.txt",
+              [](const std::string& line) { FAIL() << "a line: " << line; });
+  EXPECT_EQ(numbers().freeFile(), 1);
+}
+
+TEST_F(FileStatementsTest, AnErrorOnALineEndsTheReadingAndClosesTheFile) {
+  machine.file("C:\\d\\a.txt", "one\ntwo\nthree");
+  std::vector<std::string> lines;
+  forEachLine(numbers(), "C:\\d\\a.txt", [&](const std::string& line) {
+    lines.push_back(line);
+    if (line == "two") throw RuntimeError{kErrTypeMismatch, "Type mismatch"};
+  });
+  EXPECT_EQ(lines, std::vector<std::string>({"one", "two"}));
+  EXPECT_EQ(numbers().freeFile(), 1);
+}
+
 TEST_F(FileStatementsTest, AnEmptyFileIsAtItsEnd) {
   machine.file("C:\\d\\a.txt", "");
   numbers().open(1, "C:\\d\\a.txt", OpenMode::kInput);
