@@ -40,7 +40,10 @@ void Form3Code::readSchedule() {
   for (std::size_t i = 0; i < form.options().size(); ++i) {
     if (kind != static_cast<double>(i + 1)) continue;
     form.options().at(i)->setValue(true);
-    if (i < form.intervals().size()) form.intervals().at(i)->setText(numberText(Val(value)));
+    if (i < form.intervals().size()) {
+      form.intervals().at(i)->setText(
+          numberText(Val(value), context_.machine.locale.decimalSign()));
+    }
   }
 }
 

@@ -115,21 +115,10 @@ void LanguagePicker::chameleonButton12_Click() {
   form_.pictrlang.visible = !form_.pictrlang.visible;
 }
 
-void LanguagePicker::highlight(int index, bool on) {
-  const auto at = static_cast<std::size_t>(index);
-  if (highlighted_.size() <= at) highlighted_.resize(at + 1);
-  highlighted_[at] = on;
-}
-
 void LanguagePicker::pictrlang_MouseMove() {
-  for (int index = 1; index < static_cast<int>(highlighted_.size()); ++index) {
-    highlight(index, false);
+  for (std::size_t index = 1; index < form_.lbllanguage.size(); ++index) {
+    form_.lbllanguage[index].highlighted = false;
   }
-}
-
-bool LanguagePicker::highlighted(int index) const {
-  const auto at = static_cast<std::size_t>(index);
-  return at < highlighted_.size() && highlighted_[at];
 }
 
 }  // namespace tavr

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <functional>
-#include <vector>
 
 #include "config/form_host.h"
 
@@ -25,14 +24,11 @@ class LanguagePicker {
   void markRowInForce();
 
   void lbllanguage_Click(int index);
-  void lbllanguage_MouseMove(int index) { highlight(index, true); }
+  void lbllanguage_MouseMove(int index) { row(index).highlighted = true; }
   /// Over the panel, beside the rows: all highlights go but the first row's.
   void pictrlang_MouseMove();
   /// Shows the panel or hides it.
   void chameleonButton12_Click();
-
-  /// Whether a row is shown highlighted.
-  bool highlighted(int index) const;
 
   /// Told of every row that is added to the designed one, with its index in its
   /// design: the form takes it among its controls.
@@ -42,12 +38,10 @@ class LanguagePicker {
   Label& row(int index);
   void loadRow(int index, std::string_view entry);
   void connectRow(int index);
-  void highlight(int index, bool on);
   void moveMarker(int index);
 
   FormContext& context_;
   Form1& form_;
-  std::vector<bool> highlighted_;
 };
 
 }  // namespace tavr

@@ -13,9 +13,12 @@ namespace {
 constexpr int kLastMinute = 59;
 constexpr int kLastHour = 24;
 
-// The number that a text is as a whole; raises 13 for any other text.
-double toNumber(std::string_view text) {
-  if (text.starts_with('&')) return toLong(text);
+// The number that a text is as a whole, with the locale's sign before its
+// fraction; raises 13 for any other text.
+double toNumber(std::string_view written, char decimal) {
+  if (written.starts_with('&')) return toLong(written);
+  std::string text(written);
+  for (char& c : text) c = c == decimal ? '.' : c == '.' ? decimal : c;
   const std::size_t first = text.find_first_not_of("+-");
   if (first == text.npos || first > 1 || text.find_first_of("0123456789.", first) != first) {
     throw RuntimeError{kErrTypeMismatch, "Type mismatch"};
@@ -61,8 +64,8 @@ SavedSchedule savedSchedule(Locale& locale, const LocalTime& now, ScheduleKind k
   saved.value = Trim(interval);
   ResumeNext on;
   on.next([&] {
-    const double number = toNumber(saved.value);
     const char decimal = locale.decimalSign();
+    const double number = toNumber(saved.value, decimal);
     if (kind == ScheduleKind::kMinutes) {
       const ClockMinute next = afterMinutes(number, now.hour, now.minute);
       saved.nextmin = numberText(next.minute, decimal);

@@ -48,6 +48,9 @@ void FormDesk::leave(std::unique_ptr<Code>& code) {
   code->form.visible = false;
   for (Control* const control : code->form.controls()) {
     if (auto* const timer = dynamic_cast<FormTimer*>(control)) timer->setEnabled(false);
+    if (auto* const button = dynamic_cast<ChameleonButton*>(control)) {
+      button->OverTimer.setEnabled(false);
+    }
   }
   unloaded_.emplace_back(std::move(code));
 }

@@ -37,6 +37,7 @@ class TextBox : public Control {
 class Label : public Control {
  public:
   std::function<void()> onClick;
+  bool highlighted = false;  ///< of a row of choices: the mouse has been over it
 
  protected:
   void pressed() override {

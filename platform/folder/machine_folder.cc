@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/folder/english_locale.h"
 #include "platform/folder/faults.h"
 #include "platform/folder/file_descriptor.h"
 #include "platform/folder/folder_accounts.h"

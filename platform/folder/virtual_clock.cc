@@ -73,18 +73,4 @@ void RealClock::passUntil(std::uint64_t tick) {
   ::nanosleep(&sleep, nullptr);  // a signal ends it early, as it should
 }
 
-std::string EnglishLocale::shortDate(const LocalTime& time) {
-  char text[48];
-  std::snprintf(text, sizeof text, "%d/%d/%d", time.month, time.day, time.year);
-  return text;
-}
-
-std::string EnglishLocale::longTime(const LocalTime& time) {
-  const int hour = time.hour % 12 == 0 ? 12 : time.hour % 12;
-  char text[48];
-  std::snprintf(text, sizeof text, "%d:%02d:%02d %s", hour, time.minute, time.second,
-                time.hour < 12 ? "AM" : "PM");
-  return text;
-}
-
 }  // namespace tavr::folder

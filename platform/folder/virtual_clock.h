@@ -42,11 +42,4 @@ class RealClock : public MachineClock {
 /// Does the calendar have this day, and the day this time?
 bool validTime(const LocalTime& time);
 
-class EnglishLocale : public Locale {
- public:
-  std::string shortDate(const LocalTime& time) override;
-  std::string longTime(const LocalTime& time) override;
-  char decimalSign() override { return '.'; }
-};
-
 }  // namespace tavr::folder

@@ -24,6 +24,10 @@ class ContractMachine {
  public:
   virtual ~ContractMachine() = default;
 
+  /// Why the test of this name ("Suite.Test") cannot be run on this machine; ""
+  /// when it can.
+  virtual std::string whyNot(std::string_view /*test*/) { return {}; }
+
   /// The machine, started at the first call.
   virtual Machine& machine() = 0;
 
@@ -53,6 +57,12 @@ class ContractMachine {
                           std::uint32_t type, std::string_view bytes) = 0;
   /// A process of this image name; its id.
   virtual std::uint32_t startProcess(std::string_view image) = 0;
+  /// A file where the URL cache can keep what it holds of that URL; its path.
+  virtual std::string plantCacheFile(std::string_view /*url*/, std::string_view name) {
+    std::string path = scratchFolder().append("\\").append(name);
+    plantFile(path, "x");
+    return path;
+  }
   /// An entry of the URL cache; an empty file name is none.
   virtual void plantCacheEntry(std::uint32_t type, std::string_view url,
                                std::string_view local_file) = 0;

@@ -14,6 +14,12 @@ namespace tavr::contract {
 
 class ContractTest : public ::testing::Test {
  protected:
+  void SetUp() override {
+    const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
+    const std::string name = std::string(test->test_suite_name()) + "." + test->name();
+    if (const std::string reason = machine_->whyNot(name); !reason.empty()) GTEST_SKIP() << reason;
+  }
+
   ContractMachine& on() { return *machine_; }
   Machine& machine() { return machine_->machine(); }
 

@@ -25,6 +25,9 @@ class UrlCacheContract : public ContractTest {
     } while (walk->next(entry));
     return all;
   }
+  std::string cached(std::string_view url, std::string_view name) {
+    return on().plantCacheFile(url, name);
+  }
   std::vector<std::string> urls() {
     std::vector<std::string> all;
     for (const CacheEntry& entry : entries()) all.push_back(entry.url.value_or("(absent)"));
@@ -46,7 +49,7 @@ TEST_F(UrlCacheContract, AWalkGivesEveryEntryOnce) {
 }
 
 TEST_F(UrlCacheContract, AnEntryHasTypeUrlAndLocalFile) {
-  const std::string local = file("a[1].gif");
+  const std::string local = cached("Cookie:user@example.org/", "a[1].gif");
   on().plantCacheEntry(kCookieEntry, "Cookie:user@example.org/", local);
   const std::vector<CacheEntry> all = entries();
   ASSERT_EQ(all.size(), 1U);
@@ -56,7 +59,8 @@ TEST_F(UrlCacheContract, AnEntryHasTypeUrlAndLocalFile) {
 }
 
 TEST_F(UrlCacheContract, AnAbsentLocalFileIsAbsentAndNotEmpty) {
-  on().plantCacheEntry(kNormalEntry, "http://example.org/a", file("a.gif"));
+  on().plantCacheEntry(kNormalEntry, "http://example.org/a",
+                       cached("http://example.org/a", "a.gif"));
   on().plantCacheEntry(kNormalEntry, "http://example.org/b", "");
   for (const CacheEntry& entry : entries()) {
     EXPECT_EQ(entry.local_file.has_value(), entry.url == "http://example.org/a");
@@ -73,8 +77,8 @@ TEST_F(UrlCacheContract, BehindTheLastEntryAWalkStaysAtItsEnd) {
 }
 
 TEST_F(UrlCacheContract, RemovingAnEntryTakesItsFileAndNoOther) {
-  const std::string removed = file("a.gif");
-  const std::string kept = file("b.gif");
+  const std::string removed = cached("http://example.org/a", "a.gif");
+  const std::string kept = cached("http://example.org/b", "b.gif");
   on().plantCacheEntry(kNormalEntry, "http://example.org/a", removed);
   on().plantCacheEntry(kNormalEntry, "http://example.org/b", kept);
   EXPECT_EQ(machine().url_cache.remove("http://example.org/a"), kSuccess);
@@ -84,10 +88,12 @@ TEST_F(UrlCacheContract, RemovingAnEntryTakesItsFileAndNoOther) {
 }
 
 TEST_F(UrlCacheContract, AnEntryGoesEvenWhenItsFileCannot) {
-  const std::string held = file("held.gif");
+  const std::string held = cached("http://example.org/held", "held.gif");
+  const std::string gone = cached("http://example.org/gone", "gone.gif");
   on().hold(held);
   on().plantCacheEntry(kNormalEntry, "http://example.org/held", held);
-  on().plantCacheEntry(kNormalEntry, "http://example.org/gone", at("gone.gif"));
+  on().plantCacheEntry(kNormalEntry, "http://example.org/gone", gone);
+  machine().files.remove(gone);
   EXPECT_EQ(machine().url_cache.remove("http://example.org/held"), kSuccess);
   EXPECT_EQ(machine().url_cache.remove("http://example.org/gone"), kSuccess);
   EXPECT_THAT(urls(), IsEmpty());

@@ -2,6 +2,7 @@
 // and does none of it.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,6 +36,7 @@ class FakeFormHost : public FormHost {
   std::vector<std::string> calls;
   std::vector<KeepList> keep_lists;
   std::vector<Message> messages;
+  std::function<void()> onKeepList;  ///< while the keep list opens
 
   Form1& form1() override { return form1_; }
   std::string_view dialogMode() const override { return form1_.dialog_mode; }
@@ -42,6 +44,7 @@ class FakeFormHost : public FormHost {
   void openKeepList(std::string_view heading, std::string_view mode) override {
     calls.emplace_back("keep list");
     keep_lists.push_back({std::string(heading), std::string(mode)});
+    if (onKeepList) onKeepList();
   }
   void showMessage(std::string_view heading, std::string_view text,
                    std::string_view subject) override {

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "basic/resume_next.h"
-#include "platform/folder/virtual_clock.h"
+#include "platform/folder/english_locale.h"
 
 namespace tavr {
 namespace {
@@ -24,6 +24,16 @@ class GermanLocale : public Locale {
     char text[48];
     std::snprintf(text, sizeof text, "%02d:%02d:%02d", time.hour, time.minute, time.second);
     return text;
+  }
+  std::optional<double> dateValue(std::string_view text) override {
+    int day = 0;
+    int month = 0;
+    int year = 0;
+    int hour = 0;
+    if (std::sscanf(std::string(text).c_str(), "%d.%d.%d %d:", &day, &month, &year, &hour) < 3) {
+      return {};
+    }
+    return dateOf({year, month, day, 0, 0, 0}) + hour / 24.0;
   }
   char decimalSign() override { return ','; }
 };

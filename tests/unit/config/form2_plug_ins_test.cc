@@ -373,6 +373,27 @@ TEST_F(Form2PlugIns, ACancelledOrFailedImportChangesNothing) {
   EXPECT_THAT(rows(), ElementsAre("alpha", "beta"));
 }
 
+TEST_F(Form2PlugIns, ImportReplacesADefinitionOfTheSameName) {
+  definitions();
+  machine.file("C:\\Users\\user\\alpha.tv", "newer");
+  button(31).press();
+  stage().desktop().chooseNext("C:\\Users\\user\\alpha.tv");
+  button(11).press();
+  EXPECT_EQ(machine.read(kPlugIns + "alpha.tv"), "newer");
+}
+
+TEST_F(Form2PlugIns, ImportLeavesAReadOnlyDefinitionOfTheSameNameAndSaysNothing) {
+  definitions();
+  const std::string before = machine.read(kPlugIns + "alpha.tv");
+  machine.readOnly(kPlugIns + "alpha.tv");
+  machine.file("C:\\Users\\user\\alpha.tv", "newer");
+  button(31).press();
+  stage().desktop().chooseNext("C:\\Users\\user\\alpha.tv");
+  button(11).press();
+  EXPECT_EQ(machine.read(kPlugIns + "alpha.tv"), before);
+  EXPECT_THAT(stage().host.messages, IsEmpty());
+}
+
 TEST_F(Form2PlugIns, DownloadOpensThePageOfTheMaker) {
   code().Form_Load();
   button(12).press();

@@ -338,8 +338,11 @@ TEST_F(Form2Test, LeavingWithoutMoreLosesNothing) {
 
 TEST_F(Form2Test, TheViewButtonsOpenTheKeepList) {
   code().Form_Load();
+  std::vector<bool> topmost;
+  stage().host.onKeepList = [&] { topmost.push_back(form().topmost); };
   button(6).press();
   button(7).press();
+  EXPECT_THAT(topmost, ElementsAre(false, false));  // out of the new form's way
   EXPECT_THAT(stage().host.keep_lists,
               ElementsAre(FakeFormHost::KeepList{"Current Cookies List", "1"},
                           FakeFormHost::KeepList{"Current Location bar history List", "2"}));

@@ -181,11 +181,12 @@ TEST(LanguageHover, ARowLightsUpAndThePanelClearsAllButTheFirst) {
   LanguagePicker picker(stage.context);
   picker.loadavlang();
   for (Label& row : form.lbllanguage) row.onMouseMove();
-  for (int row = 0; row < 3; ++row) EXPECT_TRUE(picker.highlighted(row)) << row;
+  for (int row = 0; row < 3; ++row)
+    EXPECT_TRUE(form.lbllanguage[static_cast<std::size_t>(row)].highlighted) << row;
   form.pictrlang.onMouseMove();
-  EXPECT_TRUE(picker.highlighted(0));
-  EXPECT_FALSE(picker.highlighted(1));
-  EXPECT_FALSE(picker.highlighted(2));
+  EXPECT_TRUE(form.lbllanguage[0].highlighted);
+  EXPECT_FALSE(form.lbllanguage[1].highlighted);
+  EXPECT_FALSE(form.lbllanguage[2].highlighted);
 }
 
 }  // namespace

@@ -73,8 +73,9 @@ TEST(PlugInListing, TheSelectionIsThereEvenWhenItIsEmpty) {
 // The lists behind Command1 with one ticked definition of these lines.
 class Definition : public ::testing::Test {
  protected:
-  void read(const std::string& lines) {
-    machine.file(kFolder + "plugins\\P.tv", "Title\r\nAuthor\r\nDescription\r\n" + lines);
+  void read(const std::string& lines) { readWhole("Title\r\nAuthor\r\nDescription\r\n" + lines); }
+  void readWhole(const std::string& lines) {
+    machine.file(kFolder + "plugins\\P.tv", lines);
     form().View1.clear();
     form().View1.add("P", "b").checked = true;
     machine.program().plug_ins.Command1();
@@ -108,6 +109,13 @@ TEST_F(Definition, TheCharacterBehindTheWordIsNotLookedAt) {
 TEST_F(Definition, AFileLineShorterThanItsFixedPartsGivesNoEntry) {
   read("files\r\nfile\r\nfile=\r\nfile=a\r\n");
   EXPECT_THAT(files(), IsEmpty());
+}
+
+// The first three lines are title, author and description, and lines all the same.
+TEST_F(Definition, ATitleThatNamesASectionOpensIt) {
+  readWhole("files\r\nfile=C:\\a.dat,1\r\nregistry\r\nHKEY_CURRENT_USER\\a,1\r\n");
+  EXPECT_THAT(files(), ElementsAre("C:\\a.dat"));
+  EXPECT_THAT(texts(form().List6), ElementsAre("HKEY_CURRENT_USER\\a,1"));
 }
 
 TEST_F(Definition, AFolderLineGivesFolderMaskAndMark) {

@@ -7,7 +7,7 @@
 #include <string>
 #include <tuple>
 
-#include "platform/folder/virtual_clock.h"
+#include "platform/folder/english_locale.h"
 
 namespace tavr {
 namespace {
@@ -26,6 +26,23 @@ Saved save(ScheduleKind kind, std::string_view interval, const LocalTime& now = 
 TEST(Schedule, OfMinutesStoresMinuteAndHour) {
   EXPECT_EQ(save(ScheduleKind::kMinutes, "45"), Saved("1", "45", "50", "10"));
   EXPECT_EQ(save(ScheduleKind::kMinutes, " 45 "), Saved("1", "45", "50", "10"));
+}
+
+// English but for the sign before a fraction.
+class CommaLocale : public folder::EnglishLocale {
+ public:
+  char decimalSign() override { return ','; }
+};
+
+TEST(Schedule, ReadsAndWritesFractionsWithTheSignOfTheLocale) {
+  CommaLocale locale;
+  const auto with_comma = savedSchedule(locale, at(10, 5), ScheduleKind::kMinutes, "2,5");
+  EXPECT_EQ(with_comma.value, "2,5");
+  EXPECT_EQ(with_comma.nextmin, "7,5");
+  const auto with_point = savedSchedule(locale, at(10, 5), ScheduleKind::kMinutes, "2.5");
+  EXPECT_EQ(with_point.nextmin, "");
+  EXPECT_EQ(save(ScheduleKind::kMinutes, "2.5"), Saved("1", "2.5", "7.5", "10"));
+  EXPECT_EQ(save(ScheduleKind::kMinutes, "2,5"), Saved("1", "2,5", "", ""));
 }
 
 TEST(Schedule, OfHoursStoresTheHourAlone) {

@@ -257,8 +257,8 @@ TEST_F(CommandsTest, TheHoverTextsComeFromTheLanguageFile) {
 
 TEST_F(CommandsTest, TheCommandColumnShowsTheHoverTextsOfTheButtonsBelowIt) {
   const std::pair<const char*, const char*> kHints[] = {
-      {"cmd_view", "view"},   {"cmd_clear", "clear"}, {"cmd_plugin", "plug-ins"},
-      {"cmd_start", "erase"}, {"cmd_test", "test"},   {"cmd_settings", "settings"},
+      {"cmd_view", "view"},     {"cmd_clear", "clear"}, {"cmd_plugin", "plug-ins"},
+      {"cmd_start", "erase"},   {"cmd_test", "test"},   {"cmd_settings", "settings"},
       {"cmd_option", "options"}};
   for (const auto& [name, text] : kHints) {
     form.find(name)->onMouseMove();

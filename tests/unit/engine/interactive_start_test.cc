@@ -128,6 +128,48 @@ TEST(InteractiveStart, SWithTheWindowsStartOptionErasesOnce) {
   EXPECT_EQ(started.form().Text5.text(), "2");
 }
 
+TEST(InteractiveStart, TheWindowsStartOptionIsOnForExactlyTheNumberOne) {
+  const std::pair<const char*, bool> kTexts[] = {{"1.0", true}, {"2", false}, {"abc", false}};
+  for (const auto& [text, on] : kTexts) {
+    TestMachine machine;
+    usedBefore(machine).setting("tavr wipe\\timer", "winstart", text);
+    StartedProgram started(machine);
+    started.start("s");
+    EXPECT_EQ(started.runs.size(), on ? 1U : 0U) << text;
+  }
+}
+
+// Whoever set Text5 before: the trigger is another text first.
+TEST(InteractiveStart, TheWindowsStartErasesAlsoWhereTheTriggerStoodAlready) {
+  TestMachine machine;
+  usedBefore(machine).setting("tavr wipe\\timer", "winstart", "1");
+  StartedProgram started(machine);
+  started.start("s");
+  Form_Load(started.program());
+  EXPECT_THAT(started.runs, ElementsAre(RunKind::erase, RunKind::erase));
+}
+
+TEST(InteractiveStart, TheRunAtWindowsStartFindsTheTextsReadAndNoHotKeyYet) {
+  TestMachine machine;
+  usedBefore(machine)
+      .setting("tavr wipe\\timer", "winstart", "1")
+      .setting(kOptionsSetting, "5", "1")
+      .setting(kMainSetting, "key", "K")
+      .setting(kMainSetting, "language", "english.ini")
+      .setting(kMainSetting, "homepage", "http://a/");
+  StartedProgram started(machine);
+  std::string seen;
+  bool hot_key = true;
+  started.program().onRunFinished = [&](RunKind) {
+    seen = started.form().txtlang.text() + " " + started.form().Text12.text();
+    hot_key = !started.desktop().hotKeys().empty();
+  };
+  started.start("s");
+  EXPECT_EQ(seen, "english.ini http://a/");
+  EXPECT_FALSE(hot_key);
+  EXPECT_FALSE(started.desktop().hotKeys().empty());
+}
+
 TEST(InteractiveStart, TheScheduleTicksEveryTenSecondsFromLoading) {
   TestMachine machine;
   // A schedule of days without a date is due at the first tick.
@@ -157,6 +199,14 @@ TEST(HotKey, IsRegisteredWithAltAndTheFirstCharacterOfTheKey) {
   started.start();
   EXPECT_THAT(started.desktop().hotKeys(), ElementsAre(std::pair{1, HotKey{1, 'K'}}));
   EXPECT_TRUE(started.program().hot_key_installed);
+}
+
+TEST(HotKey, TakesTheCharacterAsItStands) {
+  TestMachine machine;
+  usedBefore(machine).setting(kOptionsSetting, "5", "1").setting(kMainSetting, "key", "k");
+  StartedProgram started(machine);
+  started.start();
+  EXPECT_THAT(started.desktop().hotKeys(), ElementsAre(std::pair{1, HotKey{1, 'k'}}));
 }
 
 TEST(HotKey, ARepeatedLoadReleasesItFirst) {

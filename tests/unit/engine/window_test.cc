@@ -106,7 +106,38 @@ TEST_F(WindowTest, TheHotKeyHidesAVisibleWindowAndUnloadsTheDialogs) {
   hotKeyProcedure(it.program(), kHotKeyMessage, 1);
   EXPECT_FALSE(it.form().visible);
   for (const char* dialog : {"Form2", "Form3", "Form52"}) EXPECT_FALSE(it.open(dialog)) << dialog;
+  EXPECT_TRUE(it.form().enabled);
   it.program().desk.freeUnloaded();
+}
+
+// The tray icon's road removes the icon, the hot key's leaves it, and the next
+// minimising under stealth takes it away.
+TEST_F(WindowTest, TheHotKeyLeavesATrayIconThatStealthThenHides) {
+  constexpr std::string_view kOptions = "software\\tavrwork\\Tavr wipe\\option\\option";
+  StartedProgram& it = started(true);
+  it.program().registry.saveSetting(kOptions, "5", "0");
+  it.form().chameleonButton10.press();
+  ASSERT_TRUE(it.form().TrayArea1.visible());
+  hotKeyProcedure(it.program(), kHotKeyMessage, 1);
+  EXPECT_TRUE(it.form().visible);
+  EXPECT_TRUE(it.form().TrayArea1.visible());
+  EXPECT_TRUE(it.desktop().trayToolTip().has_value());
+  it.program().registry.saveSetting(kOptions, "5", "1");
+  it.form().chameleonButton10.press();
+  EXPECT_FALSE(it.form().visible);
+  EXPECT_FALSE(it.form().TrayArea1.visible());
+}
+
+TEST_F(WindowTest, AButtonOfAClosedFormNoLongerLooksForTheMouse) {
+  StartedProgram& it = started();
+  it.form().chameleonButton7.press();
+  auto* const button =
+      dynamic_cast<ChameleonButton*>(it.program().desk.loaded("Form2")->find("chameleonButton4"));
+  ASSERT_NE(button, nullptr);
+  button->mouseMove();
+  ASSERT_TRUE(button->OverTimer.enabled());
+  it.program().desk.unload("Form2");
+  EXPECT_FALSE(button->OverTimer.enabled());
 }
 
 TEST_F(WindowTest, TheHotKeyBringsAHiddenWindowBack) {

@@ -5,6 +5,8 @@
 #include <ctime>
 #include <string>
 
+#include "platform/folder/english_locale.h"
+
 namespace tavr::folder {
 namespace {
 

@@ -57,6 +57,15 @@ TEST_F(IndexDat, TheSecureOptionRepeatsTheOverwriting) {
   EXPECT_EQ(events().pumps, 3 + 11 * (2 + 3 + 4));
 }
 
+// The options form offers 1 to 10; what is stored counts.
+TEST_F(IndexDat, ANumberBeyondTheOfferedOnesIsUsedAsStored) {
+  cookiesAt("C:\\home\\Cookies");
+  option("1");
+  world_.setting("tavr wipe", "secure_value", "12");
+  call("c9");
+  EXPECT_EQ(contents(direct), std::to_string(12 * 8192) + " x #");
+}
+
 TEST_F(IndexDat, WithoutANumberTheSecureOptionOverwritesOnce) {
   cookiesAt("C:\\home\\Cookies");
   option("1");

@@ -1,0 +1,104 @@
+#include "platform/win32/win32_desktop.h"
+
+#include <windows.h>
+// Behind windows.h.
+#include <commdlg.h>
+#include <shellapi.h>
+
+#include <algorithm>
+#include <iterator>
+
+#include "platform/win32/wide.h"
+
+namespace tavr::win32 {
+
+namespace {
+
+constexpr UINT kIconId = 1;
+constexpr UINT kTrayMessage = 512;
+// One text of 64 characters with its NUL, as the icons of old have it.
+constexpr std::size_t kTipLength = 63;
+constexpr std::size_t kChosenLength = 1024;
+
+// "text|pattern|text|pattern" as the dialog takes it: each with its NUL, and one
+// more at the end.
+std::wstring dialogFilter(std::string_view filter) {
+  std::wstring text = wide(filter);
+  std::replace(text.begin(), text.end(), L'|', L'\0');
+  text.append(2, L'\0');
+  return text;
+}
+
+}  // namespace
+
+Win32Desktop::~Win32Desktop() { Win32Desktop::removeTrayIcon(); }
+
+void Win32Desktop::setTray(void* window, void* icon) {
+  if (window != tray_window_) removeTrayIcon();
+  tray_window_ = window;
+  icon_ = icon;
+}
+
+ScreenSize Win32Desktop::screen() {
+  return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+}
+
+bool Win32Desktop::registerHotKey(int id, std::uint32_t modifiers, std::uint32_t virtual_key) {
+  return window_ != nullptr &&
+         RegisterHotKey(static_cast<HWND>(window_), id, modifiers, virtual_key) != FALSE;
+}
+
+void Win32Desktop::unregisterHotKey(int id) {
+  if (window_ != nullptr) UnregisterHotKey(static_cast<HWND>(window_), id);
+}
+
+bool Win32Desktop::notify(unsigned long operation, std::string_view tool_tip) const {
+  NOTIFYICONDATAW data{};
+  data.cbSize = sizeof(data);
+  data.hWnd = static_cast<HWND>(tray_window_);
+  data.uID = kIconId;
+  data.uFlags = NIF_MESSAGE;
+  data.uCallbackMessage = kTrayMessage;
+  if (icon_ != nullptr) {
+    data.uFlags |= NIF_ICON;
+    data.hIcon = static_cast<HICON>(icon_);
+  }
+  const std::wstring tip = wide(leftUtf16(tool_tip, kTipLength));
+  if (!tip.empty() || operation == NIM_MODIFY) data.uFlags |= NIF_TIP;
+  std::copy(tip.begin(), tip.end(), std::begin(data.szTip));
+  return Shell_NotifyIconW(operation, &data) != FALSE;
+}
+
+void Win32Desktop::addTrayIcon(std::string_view tool_tip) {
+  if (tray_window_ == nullptr) return;
+  shown_ = notify(NIM_ADD, tool_tip) || shown_;
+}
+
+void Win32Desktop::changeTrayIcon(std::string_view tool_tip) {
+  if (shown_) notify(NIM_MODIFY, tool_tip);
+}
+
+void Win32Desktop::removeTrayIcon() {
+  if (!shown_) return;
+  notify(NIM_DELETE, {});
+  shown_ = false;
+}
+
+std::optional<std::string> Win32Desktop::chooseFile(std::string_view filter,
+                                                    std::string_view file_name) {
+  if (window_ == nullptr) return std::nullopt;
+  const std::wstring filters = dialogFilter(filter);
+  std::wstring chosen = wide(file_name);
+  chosen.resize(kChosenLength);
+  OPENFILENAMEW dialog{};
+  dialog.lStructSize = sizeof(dialog);
+  dialog.hwndOwner = static_cast<HWND>(window_);
+  dialog.lpstrFilter = filters.c_str();
+  dialog.lpstrFile = chosen.data();
+  dialog.nMaxFile = kChosenLength;
+  dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY;
+  if (!GetOpenFileNameW(&dialog)) return std::nullopt;
+  return narrow(chosen.c_str());
+}
+
+}  // namespace tavr::win32

@@ -1,0 +1,42 @@
+// The desktop of this machine. Hot keys, the icon in the notification area and
+// the dialog that asks for a file belong to windows; before there are any, no hot
+// key is taken, no icon shown and no file chosen.
+#pragma once
+
+#include "platform/desktop.h"
+
+namespace tavr::win32 {
+
+class Win32Desktop : public Desktop {
+ public:
+  Win32Desktop() = default;
+  ~Win32Desktop() override;
+  Win32Desktop(const Win32Desktop&) = delete;
+  Win32Desktop& operator=(const Win32Desktop&) = delete;
+
+  /// The main window (HWND): it gets the hot keys and owns the file dialog.
+  void setWindow(void* window) { window_ = window; }
+  /// The window (HWND) that gets the mouse messages of the icon, as message 512
+  /// with the mouse's own in lParam, and the picture (HICON). An icon that is
+  /// shown takes the picture with its next change.
+  void setTray(void* window, void* icon);
+
+  ScreenSize screen() override;
+  bool registerHotKey(int id, std::uint32_t modifiers, std::uint32_t virtual_key) override;
+  void unregisterHotKey(int id) override;
+  void addTrayIcon(std::string_view tool_tip) override;
+  void changeTrayIcon(std::string_view tool_tip) override;
+  void removeTrayIcon() override;
+  std::optional<std::string> chooseFile(std::string_view filter,
+                                        std::string_view file_name) override;
+
+ private:
+  bool notify(unsigned long operation, std::string_view tool_tip) const;
+
+  void* window_ = nullptr;
+  void* tray_window_ = nullptr;
+  void* icon_ = nullptr;
+  bool shown_ = false;
+};
+
+}  // namespace tavr::win32

@@ -1,0 +1,35 @@
+#include "platform/win32/win32_dialogs.h"
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+
+#include "platform/win32/wide.h"
+
+namespace tavr::win32 {
+
+namespace {
+
+constexpr std::string_view kApplicationTitle = "Spoorwipe";
+
+}  // namespace
+
+int Win32Dialogs::messageBox(std::string_view text, std::uint32_t flags, std::string_view title) {
+  const std::wstring wide_text = wide(text);
+  const std::wstring wide_title = wide(title.empty() ? kApplicationTitle : title);
+  // No window of the program takes a click while the box is open.
+  const UINT modal = (flags & MB_MODEMASK) == MB_APPLMODAL ? MB_TASKMODAL : 0;
+  std::optional<Win32Events::ModalLoop> loop;
+  if (events_ != nullptr) loop.emplace(*events_);
+  const int answer =
+      MessageBoxW(GetActiveWindow(), wide_text.c_str(), wide_title.c_str(), flags | modal);
+  if (loop) loop->rethrow();
+  if (answer > 0) return answer;
+  // Where no box can be shown nobody agrees to anything.
+  return (flags & MB_TYPEMASK) <= MB_OKCANCEL ? IDOK : kAnswerNo;
+}
+
+void Win32Dialogs::beep() { MessageBeep(MB_OK); }
+
+}  // namespace tavr::win32

@@ -1,0 +1,92 @@
+#include "platform/win32/win32_registry.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/win32/wide.h"
+#include "platform/win32/win32_registry_key.h"
+
+namespace tavr::win32 {
+
+namespace {
+
+constexpr REGSAM kBothViews = KEY_WOW64_32KEY | KEY_WOW64_64KEY;
+constexpr std::size_t kLongestName = 255;
+
+// Numbers come from callers as they are, and one that is no root could be a
+// handle of this process that happens to be a key.
+HKEY handleOf(Root root) {
+  switch (root) {
+    case Root::kClassesRoot:
+      return HKEY_CLASSES_ROOT;
+    case Root::kCurrentUser:
+      return HKEY_CURRENT_USER;
+    case Root::kLocalMachine:
+      return HKEY_LOCAL_MACHINE;
+    case Root::kUsers:
+      return HKEY_USERS;
+  }
+  return nullptr;
+}
+
+bool hasLongName(std::wstring_view path) {
+  if (path.size() <= kLongestName) return false;
+  for (std::size_t at = 0; at < path.size();) {
+    const std::size_t end = std::min(path.find(L'\\', at), path.size());
+    if (end - at > kLongestName) return true;
+    at = end + 1;
+  }
+  return false;
+}
+
+// What every call asks first.
+Status refusal(HKEY root, const std::wstring& path, std::uint32_t access) {
+  if (root == nullptr) return kInvalidHandle;
+  if ((access & kBothViews) == kBothViews || hasLongName(path)) return kInvalidParameter;
+  return kSuccess;
+}
+
+REGSAM withView(std::uint32_t access) {
+  return (access & kBothViews) == 0 ? access | KEY_WOW64_32KEY : access;
+}
+
+OpenedKey opened(LSTATUS status, HKEY key, REGSAM mask) {
+  if (status != ERROR_SUCCESS) return {static_cast<Status>(status), nullptr};
+  return {kSuccess, std::make_unique<Win32RegistryKey>(key, mask & kBothViews)};
+}
+
+}  // namespace
+
+OpenedKey Win32Registry::open(Root root, std::string_view path, std::uint32_t access) {
+  const HKEY base = handleOf(root);
+  const std::wstring name = wide(path);
+  if (const Status refused = refusal(base, name, access)) return {refused, nullptr};
+  const REGSAM mask = withView(access);
+  HKEY key = nullptr;
+  const LSTATUS status = RegOpenKeyExW(base, name.c_str(), 0, mask, &key);
+  return opened(status, key, mask);
+}
+
+OpenedKey Win32Registry::create(Root root, std::string_view path, std::string_view key_class,
+                                std::uint32_t access) {
+  const HKEY base = handleOf(root);
+  const std::wstring name = wide(path);
+  if (const Status refused = refusal(base, name, access)) return {refused, nullptr};
+  const REGSAM mask = withView(access);
+  std::wstring class_text = wide(key_class);
+  HKEY key = nullptr;
+  const LSTATUS status = RegCreateKeyExW(base, name.c_str(), 0, class_text.data(),
+                                         REG_OPTION_NON_VOLATILE, mask, nullptr, &key, nullptr);
+  return opened(status, key, mask);
+}
+
+Status Win32Registry::deleteKey(Root root, std::string_view path) {
+  const HKEY base = handleOf(root);
+  const std::wstring name = wide(path);
+  if (const Status refused = refusal(base, name, 0)) return refused;
+  return static_cast<Status>(RegDeleteKeyExW(base, name.c_str(), KEY_WOW64_64KEY, 0));
+}
+
+}  // namespace tavr::win32
