@@ -1,5 +1,12 @@
 # The programs that are run on Windows itself, or under Wine in a prefix of
 # scripts/prefix; never by the build.
-file(GLOB sources CONFIGURE_DEPENDS contract/*_contract_test.cc contract/win32_*.cc)
+file(GLOB sources CONFIGURE_DEPENDS contract/*_contract_test.cc contract/win32_*.cc
+     windows/*_test.cc)
 add_executable(test_contract ${sources})
-target_link_libraries(test_contract PRIVATE tavr_win32 gmock_main)
+target_link_libraries(test_contract PRIVATE tavr_services tavr_win32 gmock_main)
+
+# Started by test_contract under other names; it looks for it beside itself.
+add_executable(sleeper WIN32 windows/sleeper.cc)
+add_dependencies(test_contract sleeper)
+
+include(windows/programs.cmake)

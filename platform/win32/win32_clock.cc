@@ -81,7 +81,8 @@ std::string Win32Locale::longTime(const LocalTime& time) {
 
 std::optional<double> Win32Locale::dateValue(std::string_view text) {
   DATE date = 0;
-  if (FAILED(VarDateFromStr(wide(text).c_str(), LOCALE_USER_DEFAULT, 0, &date))) return {};
+  std::wstring written = wide(text);
+  if (FAILED(VarDateFromStr(written.data(), LOCALE_USER_DEFAULT, 0, &date))) return {};
   return date;
 }
 

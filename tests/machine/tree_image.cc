@@ -28,21 +28,6 @@ void replaceAll(std::string& text, std::string_view what, std::string_view with)
   }
 }
 
-void mark(const fs::path& path, const Marks& marks) {
-  const unsigned bits = (marks.hidden ? kHidden : 0) | (marks.system ? kSystem : 0);
-  if (bits != 0) {
-    const std::string text = "0x" + std::to_string(bits);
-    if (::lsetxattr(path.c_str(), kAttribute, text.data(), text.size(), 0) != 0) {
-      throw std::system_error(errno, std::generic_category(), path.string() + ": hidden, system");
-    }
-  }
-  if (marks.read_only) {
-    constexpr auto kWrite =
-        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-    fs::permissions(path, kWrite, fs::perm_options::remove);
-  }
-}
-
 Marks marksOf(const fs::directory_entry& entry) {
   Marks marks;
   if (entry.is_symlink()) return marks;
@@ -57,7 +42,32 @@ Marks marksOf(const fs::directory_entry& entry) {
   return marks;
 }
 
-Node nodeOf(const fs::directory_entry& entry) {
+// So that the temporary folder can be removed by whoever made it.
+void openFolders(const fs::path& top) {
+  fs::permissions(top, fs::perms::owner_all, fs::perm_options::add);
+  for (const auto& entry : fs::directory_iterator(top)) {
+    if (entry.is_directory() && !entry.is_symlink()) openFolders(entry.path());
+  }
+}
+
+}  // namespace
+
+void setMarks(const fs::path& path, const Marks& marks) {
+  const unsigned bits = (marks.hidden ? kHidden : 0) | (marks.system ? kSystem : 0);
+  if (bits != 0) {
+    const std::string text = "0x" + std::to_string(bits);
+    if (::lsetxattr(path.c_str(), kAttribute, text.data(), text.size(), 0) != 0) {
+      throw std::system_error(errno, std::generic_category(), path.string() + ": hidden, system");
+    }
+  }
+  if (marks.read_only) {
+    constexpr auto kWrite =
+        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    fs::permissions(path, kWrite, fs::perm_options::remove);
+  }
+}
+
+Node readNode(const fs::directory_entry& entry) {
   Node node;
   node.marks = marksOf(entry);
   if (entry.is_symlink()) {
@@ -70,16 +80,6 @@ Node nodeOf(const fs::directory_entry& entry) {
   }
   return node;
 }
-
-// So that the temporary folder can be removed by whoever made it.
-void openFolders(const fs::path& top) {
-  fs::permissions(top, fs::perms::owner_all, fs::perm_options::add);
-  for (const auto& entry : fs::directory_iterator(top)) {
-    if (entry.is_directory() && !entry.is_symlink()) openFolders(entry.path());
-  }
-}
-
-}  // namespace
 
 Ground::Ground() {
   std::string pattern = (fs::temp_directory_path() / "tavr-scenario-XXXXXX").string();
@@ -127,7 +127,7 @@ void Ground::unpack(const std::vector<Entry>& entries) const {
   }
   // Last, so that a read-only folder has what belongs in it.
   for (const Entry& entry : entries) {
-    if (entry.kind != EntryKind::link) mark(place(entry.path), entry.marks);
+    if (entry.kind != EntryKind::link) setMarks(place(entry.path), entry.marks);
   }
 }
 
@@ -154,7 +154,7 @@ TreeImage readTree(const Ground& ground) {
     } else if (named("machine.outside")) {
       name = std::string(kOutside) + path.substr(std::string_view("machine.outside").size());
     }
-    tree[name] = nodeOf(entry);
+    tree[name] = readNode(entry);
   }
   return tree;
 }

@@ -47,6 +47,9 @@ struct Node {
   bool operator==(const Node&) const = default;
 };
 
+Node readNode(const std::filesystem::directory_entry& entry);
+void setMarks(const std::filesystem::path& path, const Marks& marks);
+
 /// By an entry's path: what is in the machine as it is, the rest as
 /// "{outside}/..." or, anywhere else beside the machine, "{beside}/...".
 using TreeImage = std::map<std::string, Node>;

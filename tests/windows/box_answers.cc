@@ -1,0 +1,61 @@
+#include "tests/windows/box_answers.h"
+
+#include <windows.h>
+
+namespace tavr::windows_test {
+
+namespace {
+
+constexpr DWORD kBetweenLooks = 50;    // ms
+constexpr UINT kLongestAnswer = 1000;  // ms
+
+// By a message: GetWindowText asks no control of another process.
+std::wstring textOf(HWND window) {
+  std::wstring text(1024, L'\0');
+  DWORD_PTR size = 0;
+  if (SendMessageTimeoutW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()),
+                          SMTO_ABORTIFHUNG, kLongestAnswer, &size) == 0) {
+    return L"";
+  }
+  text.resize(size);
+  return text;
+}
+
+// All texts of a box: its message is one of them.
+BOOL CALLBACK addText(HWND child, LPARAM texts) {
+  *reinterpret_cast<std::wstring*>(texts) += textOf(child) + L"\n";
+  return TRUE;
+}
+
+BOOL CALLBACK answerBox(HWND window, LPARAM answers) {
+  constexpr const wchar_t* kBoxClass = L"#32770";
+  wchar_t name[16] = {};
+  GetClassNameW(window, name, 16);
+  if (std::wstring(name) != kBoxClass || GetDlgItem(window, IDYES) == nullptr) return TRUE;
+  std::wstring text;
+  EnumChildWindows(window, addText, reinterpret_cast<LPARAM>(&text));
+  CharLowerW(text.data());
+  for (const auto& [part, yes] : *reinterpret_cast<const BoxAnswers::Answers*>(answers)) {
+    if (text.find(part) == std::wstring::npos) continue;
+    PostMessageW(window, WM_COMMAND, static_cast<WPARAM>(yes ? IDYES : IDNO), 0);
+    break;
+  }
+  return TRUE;
+}
+
+}  // namespace
+
+BoxAnswers::BoxAnswers(Answers answers)
+    : thread_([this, answers = std::move(answers)] {
+        while (!stop_) {
+          EnumWindows(answerBox, reinterpret_cast<LPARAM>(&answers));
+          Sleep(kBetweenLooks);
+        }
+      }) {}
+
+BoxAnswers::~BoxAnswers() {
+  stop_ = true;
+  thread_.join();
+}
+
+}  // namespace tavr::windows_test

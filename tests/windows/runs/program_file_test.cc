@@ -1,0 +1,84 @@
+// tavrwipe.exe as a file: what it needs, what it weighs, what it says of itself,
+// and that it does not tell where it was built.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <string>
+
+#include "basic/text.h"
+#include "tests/machine/program_run.h"
+#include "tests/windows/runs/machine_files.h"
+
+namespace tavr::testing {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::uintmax_t kLargest = 3 << 20;
+
+fs::path program(const char* build) {
+  const char* const folder = std::getenv(build);
+  return fs::path(folder == nullptr ? "" : folder) / "tavrwipe.exe";
+}
+
+std::string bytesOf(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), {}};
+}
+
+std::string headers() {
+  return runProgram("/usr/bin/x86_64-w64-mingw32-objdump",
+                    {"-p", program("TAVR_WINDOWS_BUILD").string()}, fs::temp_directory_path())
+      .output;
+}
+
+TEST(ProgramFile, NeedsNoLibraryBeyondThoseOfWindows) {
+  const std::set<std::string> of_windows = {
+      "ADVAPI32.DLL", "COMCTL32.DLL", "COMDLG32.DLL", "DWMAPI.DLL",  "GDI32.DLL",
+      "KERNEL32.DLL", "MSIMG32.DLL",  "MSVCRT.DLL",   "OLE32.DLL",   "OLEAUT32.DLL",
+      "SHELL32.DLL",  "SHLWAPI.DLL",  "USER32.DLL",   "UXTHEME.DLL", "WININET.DLL"};
+  std::set<std::string> needed;
+  for (const std::string& line : linesOf(headers())) {
+    constexpr std::string_view kName = "DLL Name: ";
+    const std::size_t at = line.find(kName);
+    if (at != std::string::npos) needed.insert(UCase(Trim(line.substr(at + kName.size()))));
+  }
+  EXPECT_TRUE(needed.contains("KERNEL32.DLL"));
+  for (const std::string& name : needed) EXPECT_TRUE(of_windows.contains(name)) << name;
+}
+
+TEST(ProgramFile, OpensNoConsole) { EXPECT_NE(headers().find("(Windows GUI)"), std::string::npos); }
+
+TEST(ProgramFile, IsUnderThreeMegabytes) {
+  EXPECT_LT(fs::file_size(program("TAVR_WINDOWS_BUILD")), kLargest);
+}
+
+TEST(ProgramFile, AsksForWhatItNeedsOfTheSystem) {
+  const std::string bytes = bytesOf(program("TAVR_WINDOWS_BUILD"));
+  for (const char* text :
+       {"level=\"highestAvailable\"", "PerMonitorV2", ">UTF-8</activeCodePage>",
+        "Microsoft.Windows.Common-Controls", "{35138b9a-5d96-4fbd-8e2d-a2440225f93a}",
+        "{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a}"}) {
+    EXPECT_NE(bytes.find(text), std::string::npos) << text;
+  }
+}
+
+TEST(ProgramFile, HasTheSameBytesWhenBuiltInAnotherFolder) {
+  const std::string bytes = bytesOf(program("TAVR_WINDOWS_BUILD"));
+  ASSERT_FALSE(bytes.empty());
+  EXPECT_TRUE(bytes == bytesOf(program("TAVR_WINDOWS_BUILD_AGAIN")));
+}
+
+TEST(ProgramFile, TellsNothingOfTheFolderWhereItWasBuilt) {
+  const std::string bytes = bytesOf(program("TAVR_WINDOWS_BUILD"));
+  EXPECT_EQ(bytes.find(TAVR_SOURCE_DIR), std::string::npos);
+}
+
+}  // namespace
+
+}  // namespace tavr::testing

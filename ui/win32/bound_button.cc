@@ -1,0 +1,166 @@
+#include "ui/win32/bound_button.h"
+
+#include <optional>
+#include <utility>
+
+#include "ui/win32/control_places.h"
+#include "ui/win32/form_window.h"
+
+namespace tavr::win32 {
+
+namespace {
+
+std::optional<ButtonKey> buttonKey(WPARAM key, bool right_to_left) {
+  switch (key) {
+    case VK_SPACE:
+      return ButtonKey::kSpace;
+    case VK_LEFT:
+      return right_to_left ? ButtonKey::kRight : ButtonKey::kLeft;
+    case VK_RIGHT:
+      return right_to_left ? ButtonKey::kLeft : ButtonKey::kRight;
+    case VK_UP:
+      return ButtonKey::kUp;
+    case VK_DOWN:
+      return ButtonKey::kDown;
+    default:
+      return std::nullopt;
+  }
+}
+
+}  // namespace
+
+BoundButton::BoundButton(FormWindow& form, Button& button)
+    : DrawnControl(form, button),
+      button_(button),
+      chameleon_(dynamic_cast<ChameleonButton*>(&button)) {
+  if (!chameleon_) return;
+  chameleon_->onDraw = [this](int) { invalidate(); };
+  chameleon_->onSendKeys = [this](std::string_view keys) {
+    form_.moveFocus(keys.starts_with('+'));
+  };
+}
+
+// The button may outlive its window.
+BoundButton::~BoundButton() {
+  if (!chameleon_) return;
+  chameleon_->onDraw = nullptr;
+  chameleon_->onSendKeys = nullptr;
+  chameleon_->pointer_inside = false;
+}
+
+bool BoundButton::isSeparator() const {
+  return button_.design.kind == ControlKind::kToolbarButton && button_.caption.empty();
+}
+
+bool BoundButton::isOpen() const {
+  if (look_.panel.empty()) return false;
+  const Control* const panel = form_.form().find(look_.panel);
+  return panel && panel->visible;
+}
+
+std::string BoundButton::drawnOf() const {
+  std::string drawn = button_.caption + (isOpen() ? "\n1" : "\n0");
+  if (chameleon_) {
+    drawn += "\n" + std::to_string(chameleon_->color) + " " +
+             std::to_string(chameleon_->button_type) + (chameleon_->value ? " 1" : " 0");
+  }
+  return drawn;
+}
+
+bool BoundButton::showsHand() const { return chameleon_ && chameleon_->hand_pointer; }
+
+void BoundButton::draw(HDC dc, const RECT& area, const DrawnState& state) {
+  DrawnState shown = state;
+  shown.checked = isOpen();
+  shown.access_key = form_.accessKeyPosition(button_);
+  const std::string caption = form_.captionOf(button_);
+  shown.caption = caption;
+  shown.icon = look_.icon;
+  if (isSeparator()) return form_.drawSeparator(dc, area);
+  if (chameleon_) {
+    const bool pressed = chameleon_->state() == ChameleonButton::State::kPressed;
+    shown.pressed = pressed;
+    shown.checked = shown.checked || chameleon_->value;
+    drawChameleonButton(dc, area, *chameleon_,
+                        pressed ? ChameleonButton::kPressed : ChameleonButton::kNormal, look_.role,
+                        shown, form_.palette());
+  } else {
+    drawButton(dc, area, button_, look_.role, shown, form_.palette());
+  }
+}
+
+// One move at a time: its handler may read a file.
+void BoundButton::onMove(bool any_button_down) {
+  if (!chameleon_) return;
+  chameleon_->pointer_inside = true;
+  if (move_waits_) return;
+  move_waits_ = true;
+  post([this, any_button_down] {
+    move_waits_ = false;
+    chameleon_->mouseMove(any_button_down);
+  });
+}
+
+void BoundButton::onLeave() {
+  if (chameleon_) chameleon_->pointer_inside = false;
+}
+
+void BoundButton::onDown(MouseButton button) {
+  if (chameleon_) post([&chameleon = *chameleon_, button] { chameleon.mouseDown(button); });
+}
+
+void BoundButton::onUp(MouseButton button, bool inside) {
+  if (!chameleon_) {
+    if (button == MouseButton::kLeft && inside) post([&plain = button_] { plain.press(); });
+    return;
+  }
+  post([&chameleon = *chameleon_, button, inside] {
+    if (inside) return chameleon.mouseUp(button);
+    // Who lets go beside the button has changed his mind.
+    std::function<void()> kept = std::exchange(chameleon.onClick, nullptr);
+    chameleon.mouseUp(button);
+    chameleon.onClick = std::move(kept);
+  });
+}
+
+bool BoundButton::onKey(WPARAM key, bool down) {
+  if (key == VK_RETURN) {
+    if (down) post([&button = button_] { button.press(); });
+    return true;
+  }
+  return chameleon_ ? onChameleonKey(key, down) : onPlainKey(key, down);
+}
+
+bool BoundButton::onChameleonKey(WPARAM key, bool down) {
+  const std::optional<ButtonKey> known = buttonKey(key, form_.rightToLeft());
+  if (!known) return false;
+  if (down) form_.showFocus();
+  post([&chameleon = *chameleon_, known, down] {
+    if (down) {
+      chameleon.keyDown(*known);
+    } else {
+      chameleon.keyUp(*known);
+    }
+  });
+  return true;
+}
+
+bool BoundButton::onPlainKey(WPARAM key, bool down) {
+  const std::optional<ButtonKey> known = buttonKey(key, form_.rightToLeft());
+  if (!known) return false;
+  if (*known == ButtonKey::kSpace) {
+    if (held_ && !down) post([&plain = button_] { plain.press(); });
+    held_ = down;
+    invalidate();
+  } else if (down) {
+    form_.moveFocus(*known == ButtonKey::kLeft || *known == ButtonKey::kUp, isGrouped(button_));
+  }
+  return true;
+}
+
+void BoundButton::onAccessKey() {
+  SetFocus(window_);
+  post([&button = button_] { button.press(); });
+}
+
+}  // namespace tavr::win32

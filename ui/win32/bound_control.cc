@@ -1,0 +1,159 @@
+#include "ui/win32/bound_control.h"
+
+#include <commctrl.h>
+
+#include <utility>
+
+#include "forms/chameleon_button.h"
+#include "platform/win32/wide.h"
+#include "ui/win32/bound_button.h"
+#include "ui/win32/bound_check_box.h"
+#include "ui/win32/bound_combo_box.h"
+#include "ui/win32/bound_frame.h"
+#include "ui/win32/bound_label.h"
+#include "ui/win32/bound_list_box.h"
+#include "ui/win32/bound_list_view.h"
+#include "ui/win32/bound_option.h"
+#include "ui/win32/bound_picture.h"
+#include "ui/win32/bound_progress_bar.h"
+#include "ui/win32/bound_result_list.h"
+#include "ui/win32/bound_scroll_bar.h"
+#include "ui/win32/bound_text.h"
+#include "ui/win32/control_places.h"
+#include "ui/win32/form_window.h"
+
+namespace tavr::win32 {
+
+namespace {
+
+// Marks the windows that show a control, among all that exist.
+constexpr wchar_t kBoundProperty[] = L"TavrBound";
+constexpr UINT_PTR kEdgeSubclass = 2;
+
+template <class Kind, class Bound>
+std::unique_ptr<BoundControl> tryKind(FormWindow& form, Control& control) {
+  auto* const kind = dynamic_cast<Kind*>(&control);
+  return kind ? std::make_unique<Bound>(form, *kind) : nullptr;
+}
+
+// A form's own sign stands on its strip already.
+std::unique_ptr<BoundControl> tryPicture(FormWindow& form, Control& control) {
+  const ControlLook& look = lookOf(form.form(), control);
+  const bool shown = !look.icon.empty() || !look.panel.empty();
+  return shown ? tryKind<Picture, BoundPicture>(form, control) : nullptr;
+}
+
+using Maker = std::unique_ptr<BoundControl> (*)(FormWindow&, Control&);
+
+constexpr Maker kMakers[] = {
+    tryKind<Button, BoundButton>,       tryKind<Label, BoundLabel>,
+    tryKind<CheckBox, BoundCheckBox>,   tryKind<OptionButton, BoundOption>,
+    tryKind<Frame, BoundFrame>,         tryPicture,
+    tryKind<TextBox, BoundText>,        tryKind<ComboBox, BoundComboBox>,
+    tryKind<ListView, BoundListView>,   tryKind<ResultList, BoundResultList>,
+    tryKind<ListBox, BoundListBox>,     tryKind<ProgressBar, BoundProgressBar>,
+    tryKind<ScrollBar, BoundScrollBar>,
+};
+
+}  // namespace
+
+std::unique_ptr<BoundControl> makeBound(FormWindow& form, Control& control) {
+  for (const Maker maker : kMakers) {
+    if (auto bound = maker(form, control)) return bound;
+  }
+  return nullptr;
+}
+
+BoundControl::BoundControl(FormWindow& form, Control& control)
+    : form_(form), control_(control), look_(lookOf(form.form(), control)) {}
+
+BoundControl::~BoundControl() {
+  form_.actions().discard(this);
+  if (window_ == nullptr) return;
+  RemovePropW(window_, kBoundProperty);
+  RemoveWindowSubclass(window_, &edgeProcedure, kEdgeSubclass);
+  DestroyWindow(window_);
+}
+
+BoundControl* BoundControl::of(HWND window) {
+  return static_cast<BoundControl*>(GetPropW(window, kBoundProperty));
+}
+
+void BoundControl::create(const wchar_t* window_class, DWORD style, DWORD extended_style) {
+  window_ = CreateWindowExW(extended_style, window_class, L"", WS_CHILD | WS_CLIPSIBLINGS | style,
+                            0, 0, 0, 0, form_.windowOfHolder(control_), nullptr,
+                            GetModuleHandleW(nullptr), this);
+  if (window_ == nullptr) return;
+  SetPropW(window_, kBoundProperty, this);
+  if ((style & WS_BORDER) == 0) return;
+  SetWindowSubclass(window_, &edgeProcedure, kEdgeSubclass, reinterpret_cast<DWORD_PTR>(this));
+}
+
+// The line around a native control, in the colours of the form.
+LRESULT CALLBACK BoundControl::edgeProcedure(HWND window, UINT message, WPARAM wparam,
+                                             LPARAM lparam, UINT_PTR /*id*/, DWORD_PTR data) {
+  const LRESULT answer = DefSubclassProc(window, message, wparam, lparam);
+  if (message == WM_SETFOCUS || message == WM_KILLFOCUS) {
+    RedrawWindow(window, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
+  }
+  if (message != WM_NCPAINT) return answer;
+  const Palette& palette = reinterpret_cast<const BoundControl*>(data)->form_.palette();
+  RECT area;
+  GetWindowRect(window, &area);
+  OffsetRect(&area, -area.left, -area.top);
+  const HDC dc = GetWindowDC(window);
+  SetDCBrushColor(dc, GetFocus() == window ? palette.accent : palette.border);
+  FrameRect(dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+  ReleaseDC(window, dc);
+  return answer;
+}
+
+void BoundControl::post(std::function<void()> action) {
+  form_.actions().post(this, std::move(action));
+}
+
+void BoundControl::syncPlace() {
+  const RECT box = form_.pixels(control_);
+  if (EqualRect(&box, &placed_)) return;
+  placed_ = box;
+  place(box);
+}
+
+void BoundControl::place(const RECT& box) {
+  SetWindowPos(window_, nullptr, box.left, box.top, box.right - box.left, box.bottom - box.top,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void BoundControl::fontChanged() {
+  SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(native_font_), TRUE);
+}
+
+void BoundControl::sync() {
+  if (window_ == nullptr) return;
+  const HFONT native = form_.fonts().get(control_.font);
+  if (native != native_font_ || font_ != control_.font) {
+    native_font_ = native;
+    font_ = control_.font;
+    fontChanged();
+  }
+  syncPlace();
+  syncOwn();
+  const bool enabled = IsWindowEnabled(window_) != FALSE;
+  if (enabled != control_.enabled) form_.enable(*this, control_.enabled);
+  const bool shown = (GetWindowLongW(window_, GWL_STYLE) & WS_VISIBLE) != 0;
+  if (shown != control_.visible) {
+    if (control_.visible) SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    form_.show(*this, control_.visible);
+  }
+}
+
+void BoundControl::onAccessKey() { SetFocus(window_); }
+
+HBRUSH BoundControl::onColor(HDC dc) {
+  const Palette& palette = form_.palette();
+  SetTextColor(dc, control_.enabled ? palette.text : palette.faint_text);
+  SetBkColor(dc, palette.panel);
+  return form_.panelBrush();
+}
+
+}  // namespace tavr::win32

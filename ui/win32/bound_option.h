@@ -1,0 +1,26 @@
+// One of a group of options.
+#pragma once
+
+#include "ui/win32/drawn_control.h"
+
+namespace tavr::win32 {
+
+class BoundOption : public DrawnControl {
+ public:
+  BoundOption(FormWindow& form, OptionButton& box) : DrawnControl(form, box), box_(box) {}
+
+  void onAccessKey() override;
+
+ protected:
+  void draw(HDC dc, const RECT& area, const DrawnState& state) override;
+  std::string drawnOf() const override;
+  void onUp(MouseButton button, bool inside) override;
+  bool onKey(WPARAM key, bool down) override;
+
+ private:
+  void postPress();
+
+  OptionButton& box_;
+};
+
+}  // namespace tavr::win32

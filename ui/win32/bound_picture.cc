@@ -1,0 +1,57 @@
+#include "ui/win32/bound_picture.h"
+
+#include "ui/win32/artwork.h"
+#include "ui/win32/form_window.h"
+
+namespace tavr::win32 {
+
+BoundPicture::BoundPicture(FormWindow& form, Picture& picture)
+    : DrawnControl(form, picture), picture_(picture) {}
+
+BoundPicture::~BoundPicture() { animation_.stop(); }
+
+bool BoundPicture::isAnimation() const { return picture_.design.name == "Gif89a1"; }
+
+void BoundPicture::syncOwn() {
+  DrawnControl::syncOwn();
+  if (!isAnimation()) return;
+  if (loaded_ != picture_.file) {
+    loaded_ = picture_.file;
+    animation_.load(loaded_);
+  }
+  // One that could not be loaded never runs.
+  if (picture_.visible == animation_.running() || animation_.frames() == 0) return;
+  if (picture_.visible) {
+    animation_.start(window_);
+  } else {
+    animation_.stop();
+  }
+}
+
+bool BoundPicture::isPanel() const { return picture_.design.name == "pictrlang"; }
+
+void BoundPicture::draw(HDC dc, const RECT& area, const DrawnState& state) {
+  const Palette& palette = form_.palette();
+  if (isPanel()) return form_.drawPanel(dc, area);
+  if (isAnimation()) return animation_.draw(dc, area);
+  const bool on_strip = look_.role == ButtonRole::kStrip;
+  const COLORREF color = on_strip        ? palette.strip_text
+                         : state.hovered ? palette.accent
+                                         : palette.faint_text;
+  drawIcon(dc, area, look_.icon, color, state.scale);
+}
+
+void BoundPicture::onMove(bool /*any_button_down*/) {
+  if (!picture_.onMouseMove || move_waits_) return;
+  move_waits_ = true;
+  post([this] {
+    move_waits_ = false;
+    picture_.onMouseMove();
+  });
+}
+
+void BoundPicture::onUp(MouseButton button, bool inside) {
+  if (button == MouseButton::kLeft && inside) post([&picture = picture_] { picture.press(); });
+}
+
+}  // namespace tavr::win32

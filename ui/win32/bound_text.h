@@ -1,0 +1,30 @@
+// A text box: the native edit control. A tall one has several lines.
+#pragma once
+
+#include "forms/controls.h"
+#include "ui/win32/bound_control.h"
+
+namespace tavr::win32 {
+
+class BoundText : public BoundControl {
+ public:
+  BoundText(FormWindow& form, TextBox& box);
+
+  void onCommand(int code) override;
+
+ protected:
+  void syncOwn() override;
+  void place(const RECT& box) override;
+
+ private:
+  void showText();
+
+  TextBox& box_;
+  std::string shown_;
+  bool setting_ = false;  ///< the change comes from here, not from a person
+};
+
+/// The text of a window.
+std::string windowText(HWND window);
+
+}  // namespace tavr::win32

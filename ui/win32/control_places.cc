@@ -1,0 +1,129 @@
+#include "ui/win32/control_places.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "forms/controls.h"
+
+namespace tavr::win32 {
+
+namespace {
+
+constexpr int kSameRow = 6;       // px between the tops of a box and its label
+constexpr int kBesideLabel = 40;  // px between a box and the label that names it
+
+// Behind every designed number: the toolbar, then an open list.
+constexpr int kToolbarOrder = 1000;
+constexpr int kListRowOrder = 2000;
+
+bool within(const Box& box, int width, int height) {
+  return box.left < width && box.top < height && box.left + box.width > 0 &&
+         box.top + box.height > 0;
+}
+
+bool isListRow(const Control& control) {
+  return control.design.kind == ControlKind::kLabel && control.design.name == "lbllanguage";
+}
+
+bool isSeparator(const Control& control) {
+  return control.design.kind == ControlKind::kToolbarButton && control.caption.empty();
+}
+
+// -1: never.
+int orderOf(const Control& control) {
+  if (control.design.kind == ControlKind::kToolbarButton) {
+    return isSeparator(control) ? -1 : kToolbarOrder + control.design.index;
+  }
+  if (isListRow(control)) return kListRowOrder + control.design.index;
+  return control.design.tab;
+}
+
+Control* next(const std::vector<Control*>& order, const Control* current, bool back) {
+  const auto count = static_cast<std::ptrdiff_t>(order.size());
+  const auto at = std::ranges::find(order, current) - order.begin();
+  const std::ptrdiff_t start = at < count ? at : back ? 0 : count - 1;
+  for (std::ptrdiff_t step = 1; step <= count; ++step) {
+    Control* const found =
+        order[static_cast<std::size_t>((start + (back ? count - step : step)) % count)];
+    if (found->enabled) return found;
+  }
+  return nullptr;
+}
+
+bool sameGroup(const Control& a, const Control& b) {
+  return isGrouped(a) && a.design.name == b.design.name && a.design.parent == b.design.parent;
+}
+
+}  // namespace
+
+// Asked of every control at every comparison, so without a search by text.
+Control* holderOf(const Form& form, const Control& control) {
+  const std::string_view name = control.design.parent;
+  if (name.empty()) return nullptr;
+  const auto found = std::ranges::find_if(form.controls(), [name](const Control* other) {
+    return other->design.index < 0 && other->design.name == name;
+  });
+  return found == form.controls().end() ? nullptr : *found;
+}
+
+bool inSight(const Form& form, const Control& control) {
+  if (!control.visible) return false;
+  const Control* const holder = holderOf(form, control);
+  if (!holder) return within(control.box, form.width, form.height);
+  return within(control.box, holder->box.width, holder->box.height) && inSight(form, *holder);
+}
+
+bool isGrouped(const Control& control) {
+  return control.design.kind == ControlKind::kToolbarButton || isListRow(control);
+}
+
+std::vector<Control*> focusOrder(const Form& form) {
+  std::vector<Control*> order;
+  for (Control* const control : form.controls()) {
+    if (orderOf(*control) >= 0 && inSight(form, *control)) order.push_back(control);
+  }
+  std::ranges::stable_sort(order, {}, [](const Control* control) { return orderOf(*control); });
+  return order;
+}
+
+Control* nextFocus(const Form& form, const Control* current, bool back) {
+  std::vector<Control*> order;
+  for (Control* const control : focusOrder(form)) {
+    const bool in_group_of_last = !order.empty() && sameGroup(*order.back(), *control);
+    if (!in_group_of_last) {
+      order.push_back(control);
+    } else if (control == current || !order.back()->enabled) {
+      order.back() = control;  // the group is entered where one can act, and left from anywhere
+    }
+  }
+  return next(order, current, back);
+}
+
+Control* nextInGroup(const Form& form, const Control& current, bool back) {
+  std::vector<Control*> group;
+  for (Control* const control : focusOrder(form)) {
+    if (sameGroup(current, *control)) group.push_back(control);
+  }
+  return next(group, &current, back);
+}
+
+const Control* namerOf(const Form& form, const Control& control) {
+  if (!control.caption.empty()) return &control;
+  const bool named_at_right =
+      control.design.kind == ControlKind::kCheckBox || control.design.kind == ControlKind::kOption;
+  const Control* nearest = nullptr;
+  int nearest_gap = kBesideLabel;
+  for (const Control* const other : form.controls()) {
+    if (other->design.kind != ControlKind::kLabel || !other->visible) continue;
+    if (other->caption.empty() || other->design.parent != control.design.parent) continue;
+    if (std::abs(other->box.top - control.box.top) > kSameRow) continue;
+    const int gap = named_at_right ? other->box.left - control.box.left - control.box.width
+                                   : control.box.left - other->box.left - other->box.width;
+    if (gap < 0 || gap >= nearest_gap) continue;
+    nearest = other;
+    nearest_gap = gap;
+  }
+  return nearest;
+}
+
+}  // namespace tavr::win32

@@ -1,0 +1,181 @@
+// The chameleonButton: its colours from scheme and properties, its style, and
+// what stands on it.
+#include "ui/win32/artwork.h"
+#include "ui/win32/button_face.h"
+#include "ui/win32/button_styles.h"
+
+namespace tavr::win32 {
+
+namespace {
+
+// ColorScheme: what the colours come from that the button does not set itself.
+// Any other number is the calm scheme.
+constexpr int kAccentScheme = 2;
+constexpr int kOwnScheme = 3;  // its own four, black included
+
+struct Colors {
+  COLORREF ground = 0;
+  COLORREF hover = 0;
+  COLORREF text = 0;
+  COLORREF hover_text = 0;
+  COLORREF edge = 0;
+};
+
+Colors schemeColors(int scheme, const StyleTraits& traits, const Palette& palette) {
+  if (traits.filled) {
+    const COLORREF ground =
+        scheme == kAccentScheme ? mix(palette.accent, kInk, 0.3) : palette.accent;
+    return {ground, mix(ground, kWhite, 0.14), palette.accent_text, palette.accent_text,
+            mix(ground, kInk, 0.4)};
+  }
+  if (scheme == kAccentScheme) {
+    return {palette.selection, mix(palette.selection, palette.accent, 0.14), palette.accent,
+            palette.accent, mix(palette.selection, palette.accent, 0.5)};
+  }
+  return {palette.panel, palette.hover, palette.text, palette.text,
+          mix(palette.border, palette.text, 0.12)};
+}
+
+// A number of 0 is a colour that was never set, but in the own scheme.
+Colors colorsOf(const ChameleonButton& button, const StyleTraits& traits, const Palette& palette) {
+  Colors colors = schemeColors(button.color_scheme, traits, palette);
+  if (palette.high_contrast) return colors;
+  const bool all = button.color_scheme == kOwnScheme;
+  const auto take = [all](std::int32_t own, COLORREF& color) {
+    if (all || own != 0) color = fromControlColor(own);
+    return all || own != 0;
+  };
+  if (take(button.color, colors.ground)) {
+    colors.hover = colors.ground;
+    colors.text = colors.hover_text = readableOn(colors.ground);
+    colors.edge = mix(colors.ground, colors.text, 0.3);
+  }
+  if (take(button.hover_color, colors.hover)) colors.hover_text = readableOn(colors.hover);
+  if (take(button.text_color, colors.text)) colors.hover_text = colors.text;
+  take(button.hover_text_color, colors.hover_text);
+  return colors;
+}
+
+StyleInk inkOf(const ChameleonButton& button, const Colors& colors, const DrawnState& state,
+               const Palette& palette) {
+  StyleInk ink;
+  ink.hovered = state.enabled && state.hovered;
+  ink.pressed = state.enabled && (state.pressed || state.checked);
+  ink.ground = ink.hovered ? colors.hover : colors.ground;
+  ink.text = ink.hovered ? colors.hover_text : colors.text;
+  ink.edge = colors.edge;
+  ink.accent = palette.accent;
+  if (ink.pressed) {
+    const bool light = contrast(ink.ground, kWhite) < contrast(ink.ground, kInk);
+    ink.ground = mix(ink.ground, light ? palette.accent : kInk, state.pressed ? 0.2 : 0.12);
+  }
+  if (palette.high_contrast && (ink.pressed || ink.hovered)) {
+    ink.ground = palette.accent;
+    ink.text = palette.accent_text;
+  }
+  if (!state.enabled) {
+    ink.ground = palette.high_contrast ? palette.panel : mix(greyOf(colors.ground), kWhite, 0.75);
+    ink.text = disabledText(palette, ink.ground);
+    ink.edge = ink.accent = mix(ink.text, ink.ground, 0.4);
+  }
+  // A soft bevel is the same with half the contrast.
+  const double depth = button.soft_bevel ? 0.5 : 1;
+  ink.light = mix(ink.ground, kWhite, 0.85 * depth);
+  ink.dark = mix(ink.ground, kInk, 0.35 * depth);
+  if (button.soft_bevel) ink.edge = mix(ink.edge, ink.ground, 0.5);
+  return ink;
+}
+
+ButtonContent contentOf(const ChameleonButton& button, const DrawnState& state) {
+  ButtonContent content;
+  const bool over = state.hovered && !button.picture_over.empty();
+  content.picture = over ? button.picture_over : button.picture_normal;
+  if (content.picture.empty()) content.picture = state.icon;
+  if (button.picture_position >= 0 && button.picture_position <= 3) {
+    content.place = static_cast<PicturePlace>(button.picture_position);
+  }
+  if (button.use_mask_color) content.mask = fromControlColor(button.mask_color);
+  content.grey = button.use_greyscale || !state.enabled;
+  content.effect = button.special_effect;
+  return content;
+}
+
+void drawStyled(Canvas& canvas, const ChameleonButton& button, const DrawnState& state,
+                const Palette& palette) {
+  const StyleTraits traits = traitsOf(button.button_type);
+  const Colors colors = colorsOf(button, traits, palette);
+  const StyleInk ink = inkOf(button, colors, state, palette);
+  drawStyle(canvas, button.button_type, ink);
+  ButtonContent content = contentOf(button, state);
+  content.caption = {ink.text, Side::kMiddle, false};
+  content.padding = traits.padding;
+  content.pushed = traits.pushes && ink.pressed ? canvas.px(1) : 0;
+  drawContent(canvas, button, content, state);
+  if (state.focused && button.show_focus_rect) {
+    drawFocus(canvas, canvas.area(), traits.radius, traits.filled ? ink.text : ink.accent);
+  }
+}
+
+// The role's face, in the button's own colours where it has set them.
+ButtonFace roleFace(const ChameleonButton& button, ButtonRole role, const DrawnState& state,
+                    const Palette& palette) {
+  ButtonFace face = faceOf(role, state, palette);
+  if (palette.high_contrast || !state.enabled) return face;
+  const Colors rest = schemeColors(1, {}, palette);
+  const Colors own = colorsOf(button, {}, palette);
+  const bool touched = state.hovered || state.pressed;
+  const bool scheme = button.color_scheme == kAccentScheme || button.color_scheme == kOwnScheme;
+  if (button.color != 0 || scheme) face.ground = own.ground;
+  if (touched && (button.hover_color != 0 || scheme)) face.ground = own.hover;
+  if (face.ground && (button.color != 0 || button.hover_color != 0 || scheme)) {
+    face.text = readableOn(*face.ground);
+  }
+  if (own.text != rest.text && (button.text_color != 0 || scheme)) face.text = own.text;
+  if (touched && button.hover_text_color != 0) face.text = own.hover_text;
+  // A hover colour that is the resting one would leave the hover unseen.
+  if (touched && face.ground && (own.hover == own.ground || *face.ground == palette.accent)) {
+    face.edge = mix(*face.ground, face.text, state.pressed ? 0.7 : 0.45);
+  }
+  const bool own_ground = button.color != 0 || button.hover_color != 0 || scheme;
+  if (own_ground && state.pressed && face.ground) face.ground = mix(*face.ground, kInk, 0.14);
+  if (button.soft_bevel && face.edge) {
+    face.edge = mix(*face.edge, face.ground.value_or(palette.window), 0.5);
+  }
+  return face;
+}
+
+void drawByRole(Canvas& canvas, const ChameleonButton& button, ButtonRole role,
+                const DrawnState& state, const Palette& palette) {
+  ButtonContent content = contentOf(button, state);
+  DrawnState shown = state;
+  shown.icon = content.picture;
+  const ButtonFace face = roleFace(button, role, shown, palette);
+  drawFace(canvas, face, state, palette);
+  content.picture_alone = face.icon_alone;
+  content.caption = {face.text, face.side, face.bold};
+  content.padding = face.padding;
+  drawContent(canvas, button, content, state);
+  if (state.focused && button.show_focus_rect) {
+    drawFocus(canvas, canvas.area(), face.radius, face.text);
+  }
+}
+
+}  // namespace
+
+void drawChameleonButton(HDC dc, const RECT& area, const ChameleonButton& button, int state,
+                         ButtonRole role, const DrawnState& drawn, const Palette& palette) {
+  if (IsRectEmpty(&area)) return;
+  DrawnState shown = drawn;
+  shown.enabled = drawn.enabled && button.enabled;
+  shown.pressed = shown.enabled && (drawn.pressed || state == ChameleonButton::kPressed);
+  shown.hovered = shown.enabled && drawn.hovered;
+  shown.checked = drawn.checked || (button.check_box_behaviour && button.value);
+  Canvas canvas(dc, area, drawn.scale);
+  if (hasStyle(button.button_type)) {
+    drawStyled(canvas, button, shown, palette);
+  } else {
+    drawByRole(canvas, button, role, shown, palette);
+  }
+}
+
+}  // namespace tavr::win32

@@ -1,0 +1,175 @@
+#include "ui/win32/drawn_control.h"
+
+#include <windowsx.h>
+
+#include "ui/win32/control_places.h"
+#include "ui/win32/form_window.h"
+
+namespace tavr::win32 {
+
+LRESULT CALLBACK drawnControlProcedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+  if (message == WM_NCCREATE) {
+    const auto* const create = reinterpret_cast<const CREATESTRUCTW*>(lparam);
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(create->lpCreateParams));
+    return DefWindowProcW(window, message, wparam, lparam);
+  }
+  // Before it is bound and after, it is a plain window.
+  BoundControl* const bound = BoundControl::of(window);
+  if (!bound) return DefWindowProcW(window, message, wparam, lparam);
+  return static_cast<DrawnControl*>(bound)->handle(message, wparam, lparam);
+}
+
+DrawnControl::DrawnControl(FormWindow& form, Control& control, DWORD extended_style)
+    : BoundControl(form, control) {
+  registerClass();
+  create(kClass, WS_CLIPCHILDREN, extended_style);
+}
+
+void DrawnControl::registerClass() {
+  WNDCLASSEXW window_class{};
+  window_class.cbSize = sizeof(window_class);
+  window_class.lpfnWndProc = &drawnControlProcedure;
+  window_class.hInstance = GetModuleHandleW(nullptr);
+  window_class.lpszClassName = kClass;
+  RegisterClassExW(&window_class);  // a second time it is refused, and stays
+}
+
+DrawnState DrawnControl::state() const {
+  DrawnState state;
+  state.hovered = hovered_ && control_.enabled;
+  state.pressed = held_;
+  state.focused = GetFocus() == window_ && form_.showsFocus();
+  state.enabled = control_.enabled;
+  state.right_to_left = form_.rightToLeft();
+  state.scale = form_.scale();
+  return state;
+}
+
+void DrawnControl::paint(HDC dc) {
+  RECT area;
+  GetClientRect(window_, &area);
+  const HDC memory = CreateCompatibleDC(dc);
+  const HBITMAP bitmap = CreateCompatibleBitmap(dc, area.right, area.bottom);
+  const HGDIOBJ before = SelectObject(memory, bitmap);
+  const HBRUSH background = CreateSolidBrush(form_.backgroundOf(control_));
+  FillRect(memory, &area, background);
+  DeleteObject(background);
+  draw(memory, area, state());
+  BitBlt(dc, 0, 0, area.right, area.bottom, memory, 0, 0, SRCCOPY);
+  SelectObject(memory, before);
+  DeleteObject(bitmap);
+  DeleteDC(memory);
+}
+
+void DrawnControl::syncOwn() {
+  std::string now = drawnOf();
+  if (now == drawn_) return;
+  drawn_ = std::move(now);
+  invalidate();
+}
+
+void DrawnControl::mouseMoved(WPARAM keys, LPARAM point) {
+  const POINT at{GET_X_LPARAM(point), GET_Y_LPARAM(point)};
+  RECT area;
+  GetClientRect(window_, &area);
+  const bool inside = PtInRect(&area, at) != FALSE;
+  if (!hovered_) {
+    TRACKMOUSEEVENT leave{sizeof(leave), TME_LEAVE, window_, 0};
+    TrackMouseEvent(&leave);
+    invalidate();
+  }
+  hovered_ = true;
+  if (GetCapture() == window_ && held_ != inside) {
+    held_ = inside;
+    invalidate();
+  }
+  onMove((keys & (MK_LBUTTON | MK_RBUTTON | MK_MBUTTON)) != 0);
+}
+
+bool DrawnControl::handleMouse(UINT message, WPARAM wparam, LPARAM lparam) {
+  const auto down = [&](MouseButton button) {
+    if (button == MouseButton::kLeft) {
+      form_.hideFocus();
+      if (control_.design.tab >= 0) SetFocus(window_);
+      SetCapture(window_);
+      held_ = true;
+      invalidate();
+    }
+    onDown(button);
+  };
+  const auto up = [&](MouseButton button) {
+    const bool inside = held_;
+    if (button == MouseButton::kLeft) {
+      held_ = false;
+      ReleaseCapture();
+      invalidate();
+    }
+    onUp(button, inside);
+  };
+  switch (message) {
+    case WM_MOUSEMOVE:
+      mouseMoved(wparam, lparam);
+      return true;
+    case WM_MOUSELEAVE:
+      hovered_ = false;
+      invalidate();
+      onLeave();
+      return true;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+      down(MouseButton::kLeft);
+      return true;
+    case WM_LBUTTONUP:
+      up(MouseButton::kLeft);
+      return true;
+    case WM_RBUTTONDOWN:
+      down(MouseButton::kRight);
+      return true;
+    case WM_RBUTTONUP:
+      up(MouseButton::kRight);
+      return true;
+    default:
+      return false;
+  }
+}
+
+LRESULT DrawnControl::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+  if (handleMouse(message, wparam, lparam)) return 0;
+  switch (message) {
+    case WM_NCHITTEST:
+      if (!takesMouse()) return HTTRANSPARENT;
+      break;
+    case WM_PAINT: {
+      PAINTSTRUCT painting;
+      paint(BeginPaint(window_, &painting));
+      EndPaint(window_, &painting);
+      return 0;
+    }
+    case WM_PRINTCLIENT:
+      paint(reinterpret_cast<HDC>(wparam));
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_ENABLE:
+      held_ = false;
+      invalidate();
+      break;
+    case WM_SETCURSOR:
+      if (!showsHand() || LOWORD(lparam) != HTCLIENT) break;
+      SetCursor(LoadCursorW(nullptr, IDC_HAND));
+      return TRUE;
+    case WM_KEYDOWN:
+    case WM_KEYUP:
+      if (onKey(wparam, message == WM_KEYDOWN)) return 0;
+      break;
+    default: {
+      LRESULT answer = 0;
+      if (form_.route(message, wparam, lparam, answer)) return answer;
+    }
+  }
+  return DefWindowProcW(window_, message, wparam, lparam);
+}
+
+}  // namespace tavr::win32

@@ -1,0 +1,52 @@
+// The window of a control that the program draws itself: the hover, press and
+// focus of it, and painting without flicker.
+#pragma once
+
+#include "ui/win32/bound_control.h"
+#include "ui/win32/drawing.h"
+
+namespace tavr::win32 {
+
+class DrawnControl : public BoundControl {
+ public:
+  static constexpr wchar_t kClass[] = L"TavrControl";
+
+  void cuesChanged() override { invalidate(); }
+  void paint(HDC dc);
+  void invalidate() { InvalidateRect(window_, nullptr, FALSE); }
+
+ protected:
+  DrawnControl(FormWindow& form, Control& control, DWORD extended_style = 0);
+
+  virtual void draw(HDC dc, const RECT& area, const DrawnState& state) = 0;
+  /// What is shown, as far as the drawing depends on it: a change redraws.
+  virtual std::string drawnOf() const { return control_.caption; }
+  /// Whether a person works on it: else the mouse passes through to the form.
+  virtual bool takesMouse() const { return true; }
+  virtual bool showsHand() const { return false; }
+
+  // A person's hand on it.
+  virtual void onMove(bool /*any_button_down*/) {}
+  virtual void onLeave() {}
+  virtual void onDown(MouseButton /*button*/) {}
+  virtual void onUp(MouseButton /*button*/, bool /*inside*/) {}
+  virtual bool onKey(WPARAM /*key*/, bool /*down*/) { return false; }
+
+  void syncOwn() override;
+  void fontChanged() override { invalidate(); }
+
+  bool hovered_ = false;
+  bool held_ = false;  ///< a button went down on it and the pointer is over it
+
+ private:
+  friend LRESULT CALLBACK drawnControlProcedure(HWND, UINT, WPARAM, LPARAM);
+  static void registerClass();
+  LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam);
+  bool handleMouse(UINT message, WPARAM wparam, LPARAM lparam);
+  void mouseMoved(WPARAM keys, LPARAM point);
+  DrawnState state() const;
+
+  std::string drawn_;
+};
+
+}  // namespace tavr::win32

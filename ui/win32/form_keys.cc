@@ -1,0 +1,133 @@
+// How a form's window finds its way by the keyboard.
+#include <algorithm>
+
+#include "basic/text.h"
+#include "forms/controls.h"
+#include "ui/win32/control_places.h"
+#include "ui/win32/form_window.h"
+
+namespace tavr::win32 {
+
+Control* FormWindow::focused() const {
+  for (HWND at = GetFocus(); at != nullptr && at != window_; at = GetAncestor(at, GA_PARENT)) {
+    if (BoundControl* const bound = BoundControl::of(at)) {
+      return boundOf(bound->control()) == bound ? &bound->control() : nullptr;
+    }
+  }
+  return nullptr;
+}
+
+void FormWindow::focusFirst() {
+  Control* target = last_focus_;
+  if (!target || !target->enabled || !inSight(form_, *target)) {
+    target = nextFocus(form_, nullptr, false);
+    // The strip's own buttons come first in the forms, but nobody starts there.
+    const Control* const first = target;
+    while (target && lookOf(form_, *target).role == ButtonRole::kStrip) {
+      target = nextFocus(form_, target, false);
+      if (target == first) break;
+    }
+  }
+  BoundControl* const bound = target ? boundOf(*target) : nullptr;
+  SetFocus(bound ? bound->window() : window_);
+}
+
+void FormWindow::moveFocus(bool back, bool in_group) {
+  showFocus();
+  Control* const from = focused();
+  Control* const to =
+      in_group && from ? nextInGroup(form_, *from, back) : nextFocus(form_, from, back);
+  BoundControl* const bound = to ? boundOf(*to) : nullptr;
+  if (!bound) return;
+  SetFocus(bound->window());
+  if (dynamic_cast<TextBox*>(to)) SendMessageW(bound->window(), EM_SETSEL, 0, -1);
+}
+
+// A window that is disabled or hidden with the focus keeps it and takes every
+// key with it.
+void FormWindow::moveFocusFrom(Control& control) {
+  Control* const before = focused();
+  if (!before) return;
+  bool concerned = before == &control;
+  for (const Control* at = before; at && !concerned; at = holderOf(form_, *at)) {
+    concerned = at == &control;
+  }
+  if (!concerned) return;
+  Control* const to = nextFocus(form_, before, false);
+  BoundControl* const bound = to && to != before ? boundOf(*to) : nullptr;
+  SetFocus(bound ? bound->window() : window_);
+}
+
+void FormWindow::enable(BoundControl& bound, bool on) {
+  if (!on) moveFocusFrom(bound.control());
+  EnableWindow(bound.window(), on ? TRUE : FALSE);
+  InvalidateRect(bound.window(), nullptr, FALSE);
+}
+
+void FormWindow::show(BoundControl& bound, bool on) {
+  if (!on) moveFocusFrom(bound.control());
+  ShowWindow(bound.window(), on ? SW_SHOWNA : SW_HIDE);
+}
+
+void FormWindow::showFocus() {
+  if (shows_focus_) return;
+  shows_focus_ = true;
+  if (const HWND focus = GetFocus()) InvalidateRect(focus, nullptr, FALSE);
+}
+
+std::string FormWindow::captionOf(const Control& control) const {
+  const auto cue = std::ranges::find(cues_, &control, &AccessKey::shown);
+  return cue == cues_.end() ? control.caption : captionWithKey(*cue);
+}
+
+int FormWindow::accessKeyPosition(const Control& control) const {
+  const auto cue = std::ranges::find(cues_, &control, &AccessKey::shown);
+  return cue == cues_.end() ? -1 : cue->position;
+}
+
+void FormWindow::showCues(bool on) {
+  if (on == !cues_.empty()) return;
+  cues_ = on ? accessKeys(form_) : std::vector<AccessKey>();
+  for (const auto& [control, bound] : bound_) bound->cuesChanged();
+}
+
+bool FormWindow::serveAccessKey(WPARAM character) {
+  const char32_t letter = upperCase(static_cast<char32_t>(character));
+  for (const AccessKey& key : accessKeys(form_)) {
+    if (key.letter != letter) continue;
+    BoundControl* const bound = key.target->enabled ? boundOf(*key.target) : nullptr;
+    if (bound) bound->onAccessKey();
+    return true;
+  }
+  return false;
+}
+
+bool FormWindow::serveKey(const MSG& message) {
+  if (!IsWindowEnabled(window_)) return false;
+  switch (message.message) {
+    case WM_KEYDOWN:
+      if (message.wParam == VK_TAB && GetKeyState(VK_CONTROL) >= 0) {
+        moveFocus(GetKeyState(VK_SHIFT) < 0);
+        return true;
+      }
+      if (message.wParam == VK_ESCAPE && !events_.has_task_button) {
+        if (events_.close) actions_.post(this, events_.close);
+        return true;
+      }
+      return false;
+    case WM_SYSKEYDOWN:
+      if (message.wParam == VK_MENU) showCues(true);
+      return false;
+    case WM_SYSKEYUP:
+    case WM_KEYUP:
+      if (message.wParam == VK_MENU) showCues(false);
+      return false;
+    case WM_SYSCHAR:
+      showFocus();
+      return serveAccessKey(message.wParam);
+    default:
+      return false;
+  }
+}
+
+}  // namespace tavr::win32

@@ -1,0 +1,309 @@
+#include "ui/win32/form_window.h"
+
+#include <utility>
+
+#include "platform/win32/wide.h"
+#include "ui/win32/artwork.h"
+#include "ui/win32/control_places.h"
+#include "ui/win32/screen_scale.h"
+#include "ui/win32/shadow.h"
+
+namespace tavr::win32 {
+
+namespace {
+
+constexpr wchar_t kClass[] = L"TavrForm";
+constexpr int kShadowSize = 10;
+constexpr COLORREF kShadowColor = 0x808080;
+constexpr COLORREF kMaskColor = 0xFF00FF;
+constexpr int kCornerRadius = 8;
+constexpr DWORD kStyle = WS_POPUP | WS_CLIPCHILDREN | WS_MINIMIZEBOX | WS_SYSMENU;
+
+}  // namespace
+
+LRESULT CALLBACK formProcedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+  if (message == WM_NCCREATE) {
+    const auto* const create = reinterpret_cast<const CREATESTRUCTW*>(lparam);
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(create->lpCreateParams));
+  }
+  auto* const form = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (!form || !form->window_) return DefWindowProcW(window, message, wparam, lparam);
+  return form->handle(message, wparam, lparam);
+}
+
+void FormWindow::registerClass() {
+  WNDCLASSEXW window_class{};
+  if (GetClassInfoExW(GetModuleHandleW(nullptr), kClass, &window_class)) return;
+  window_class.cbSize = sizeof(window_class);
+  window_class.style = CS_DBLCLKS;
+  window_class.lpfnWndProc = &formProcedure;
+  window_class.hInstance = GetModuleHandleW(nullptr);
+  window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  window_class.lpszClassName = kClass;
+  window_class.hIcon = programIcon(GetSystemMetrics(SM_CXICON));
+  window_class.hIconSm = programIcon(GetSystemMetrics(SM_CXSMICON));
+  RegisterClassExW(&window_class);
+}
+
+FormWindow::FormWindow(Form& form, HWND owner, ActionQueue& actions, Dialogs& dialogs,
+                       FormEvents events)
+    : form_(form), actions_(actions), events_(std::move(events)) {
+  registerClass();
+  const DWORD extended = WS_EX_CONTROLPARENT | (events_.has_task_button ? WS_EX_APPWINDOW : 0U);
+  window_ = CreateWindowExW(extended, kClass, wide(form.caption).c_str(), kStyle, 0, 0, 0, 0, owner,
+                            nullptr, GetModuleHandleW(nullptr), this);
+  shape_ = std::make_unique<TransForm>(window_, dialogs);
+  shape_->MaskColor = kMaskColor;
+  takeDpi(dpiOf(window_));
+  placed_left_ = form.left;
+  placed_top_ = form.top;
+  layOut();
+  shape_->load();
+}
+
+FormWindow::~FormWindow() {
+  actions_.discard(this);
+  if (shadow_) detachShadow(window_);
+  bound_.clear();
+  tips_.reset();
+  shape_.reset();
+  if (shape_picture_ != nullptr) DeleteObject(shape_picture_);
+  const HWND window = std::exchange(window_, nullptr);
+  DestroyWindow(window);
+  if (panel_brush_ != nullptr) DeleteObject(panel_brush_);
+}
+
+FormWindow* FormWindow::of(HWND window) {
+  const HWND root = GetAncestor(window, GA_ROOT);
+  wchar_t name[16] = L"";
+  GetClassNameW(root, name, 16);
+  if (std::wstring_view(name) != kClass) return nullptr;
+  return reinterpret_cast<FormWindow*>(GetWindowLongPtrW(root, GWLP_USERDATA));
+}
+
+void FormWindow::takeDpi(int dpi) {
+  dpi_ = dpi;
+  const std::unique_ptr<Fonts> before = std::exchange(fonts_, std::make_unique<Fonts>(scale()));
+  // The windows let go of the fonts before they are destroyed.
+  for (const auto& [control, bound] : bound_) bound->sync();
+}
+
+// A form keeps its middle whatever the resolution: its place is reckoned for
+// its size at 96 dpi.
+void FormWindow::layOut() {
+  const FormLook& look = lookOf(form_);
+  const int full_height = form_.height + look.strip_above;
+  const int width = px(form_.width);
+  const int height = px(full_height);
+  placing_ = true;
+  SetWindowPos(window_, nullptr, form_.left + (form_.width - width) / 2,
+               form_.top + (full_height - height) / 2, width, height,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+  placing_ = false;
+  shapeCorners({width, height});
+  InvalidateRect(window_, nullptr, FALSE);
+}
+
+void FormWindow::shapeCorners(SIZE size) {
+  const HBITMAP before = shape_picture_;
+  shape_picture_ = roundedPicture(size, px(kCornerRadius), kMaskColor);
+  shape_->setPicture(shape_picture_);
+  if (before != nullptr) DeleteObject(before);
+}
+
+void FormWindow::takePosition() {
+  if (placing_ || IsIconic(window_)) return;
+  RECT at;
+  GetWindowRect(window_, &at);
+  const int full_height = form_.height + lookOf(form_).strip_above;
+  form_.left = placed_left_ = at.left - (form_.width - (at.right - at.left)) / 2;
+  form_.top = placed_top_ = at.top - (full_height - (at.bottom - at.top)) / 2;
+}
+
+void FormWindow::takeLook(COLORREF strip, bool right_to_left) {
+  strip_ = strip;
+  palette_ = Palette::of(strip);
+  if (panel_brush_ != nullptr) DeleteObject(panel_brush_);
+  panel_brush_ = CreateSolidBrush(palette_.panel);
+  // A window takes its direction when it is made.
+  if (right_to_left != right_to_left_ || !tips_) {
+    right_to_left_ = right_to_left;
+    last_focus_ = focused();
+    bound_.clear();
+    tips_ = std::make_unique<ToolTips>(window_, right_to_left);
+  }
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
+void FormWindow::setShadow(bool on) {
+  if (on == shadow_) return;
+  shadow_ = on;
+  if (!on) {
+    detachShadow(window_);
+    return;
+  }
+  attachShadow(window_);
+  setShadowSize(window_, kShadowSize);
+  setShadowColor(window_, kShadowColor);
+}
+
+void FormWindow::sync(COLORREF strip, bool right_to_left, bool may_show) {
+  if (strip != strip_ || right_to_left != right_to_left_ || !tips_) takeLook(strip, right_to_left);
+  if (form_.left != placed_left_ || form_.top != placed_top_) {
+    placed_left_ = form_.left;
+    placed_top_ = form_.top;
+    layOut();
+  }
+  syncControls();
+  syncFrame(may_show);
+}
+
+void FormWindow::syncFrame(bool may_show) {
+  const std::string now = title();
+  if (now != shown_title_) {
+    shown_title_ = now;
+    SetWindowTextW(window_, wide(now.empty() ? form_.caption : now).c_str());
+    InvalidateRect(window_, nullptr, FALSE);
+  }
+  if (form_.enabled != (IsWindowEnabled(window_) != FALSE)) EnableWindow(window_, form_.enabled);
+  if (form_.topmost != topmost_) {
+    topmost_ = form_.topmost;
+    SetWindowPos(window_, topmost_ ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  }
+  const bool show = form_.visible && may_show;
+  if (show == (IsWindowVisible(window_) != FALSE)) return;
+  ShowWindow(window_, show ? SW_SHOWNORMAL : SW_HIDE);
+  if (show) SetForegroundWindow(window_);
+}
+
+void FormWindow::syncControls() {
+  for (Control* const control : form_.controls()) {
+    BoundControl* bound = boundOf(*control);
+    if (!bound && inSight(form_, *control)) bound = makeWindowOf(*control);
+    if (bound) bound->sync();
+  }
+}
+
+BoundControl* FormWindow::boundOf(const Control& control) const {
+  const auto found = bound_.find(&control);
+  return found == bound_.end() ? nullptr : found->second.get();
+}
+
+// The title is drawn with the strip; a menu is one of Windows.
+BoundControl* FormWindow::makeWindowOf(Control& control) {
+  if (lookOf(form_, control).label == LabelLook::kTitle) return nullptr;
+  if (control.design.name == "bccc" || control.design.kind == ControlKind::kMenuEntry) {
+    return nullptr;
+  }
+  std::unique_ptr<BoundControl> made = makeBound(*this, control);
+  if (!made || made->window() == nullptr) return nullptr;
+  tips_->add(made->window());
+  return (bound_[&control] = std::move(made)).get();
+}
+
+HWND FormWindow::windowOfHolder(const Control& control) {
+  Control* const holder = holderOf(form_, control);
+  if (!holder) return window_;
+  BoundControl* bound = boundOf(*holder);
+  if (!bound) bound = makeWindowOf(*holder);
+  return bound ? bound->window() : window_;
+}
+
+RECT FormWindow::pixels(const Control& control) const {
+  Box box = control.box;
+  const Control* const holder = holderOf(form_, control);
+  if (!holder) box.top += lookOf(form_).strip_above;
+  if (right_to_left_) {
+    const int width = holder ? holder->box.width : form_.width;
+    box.left = width - box.left - box.width;
+  }
+  return {px(box.left), px(box.top), px(box.left + box.width), px(box.top + box.height)};
+}
+
+bool FormWindow::route(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& answer) {
+  HWND from = reinterpret_cast<HWND>(lparam);
+  NMHDR* const notice = message == WM_NOTIFY ? reinterpret_cast<NMHDR*>(lparam) : nullptr;
+  if (notice) {
+    if (ToolTips::answer(*notice)) return true;
+    from = notice->hwndFrom;
+  }
+  const bool known = message == WM_COMMAND || message == WM_NOTIFY || message == WM_VSCROLL ||
+                     message == WM_CTLCOLOREDIT || message == WM_CTLCOLORLISTBOX ||
+                     message == WM_CTLCOLORSTATIC || message == WM_CTLCOLORSCROLLBAR;
+  BoundControl* const bound = known && from != nullptr ? BoundControl::of(from) : nullptr;
+  if (!bound) return false;
+  switch (message) {
+    case WM_COMMAND:
+      bound->onCommand(HIWORD(wparam));
+      return true;
+    case WM_NOTIFY:
+      answer = bound->onNotify(*notice);
+      return true;
+    case WM_VSCROLL:
+      bound->onScroll(LOWORD(wparam));
+      return true;
+    case WM_CTLCOLORSCROLLBAR:
+      return false;
+    default:
+      answer = reinterpret_cast<LRESULT>(bound->onColor(reinterpret_cast<HDC>(wparam)));
+      return true;
+  }
+}
+
+LRESULT FormWindow::onSystemCommand(WPARAM wparam, LPARAM lparam) {
+  const WPARAM command = wparam & 0xFFF0;
+  if (command == SC_MINIMIZE && events_.minimise) {
+    actions_.post(this, events_.minimise);
+    return 0;
+  }
+  // ALT alone shows the access keys and opens no menu; ALT and the space bar do.
+  if (command == SC_KEYMENU && lparam != L' ') return 0;
+  return DefWindowProcW(window_, WM_SYSCOMMAND, wparam, lparam);
+}
+
+LRESULT FormWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+  LRESULT answer = 0;
+  if (events_.other && events_.other(message, wparam, lparam, answer)) return answer;
+  switch (message) {
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_PAINT: {
+      PAINTSTRUCT painting;
+      paint(BeginPaint(window_, &painting));
+      EndPaint(window_, &painting);
+      return 0;
+    }
+    case WM_MOVE:
+      takePosition();
+      break;
+    case WM_DPICHANGED:
+      takeDpi(HIWORD(wparam));
+      layOut();
+      return 0;
+    case WM_ACTIVATE:
+      if (LOWORD(wparam) == WA_INACTIVE) {
+        last_focus_ = focused();
+        showCues(false);
+      } else {
+        if (events_.activate) actions_.post(this, events_.activate);
+        focusFirst();
+      }
+      return 0;
+    case WM_CLOSE:
+      if (events_.close) actions_.post(this, events_.close);
+      return 0;
+    case WM_SYSCOMMAND:
+      return onSystemCommand(wparam, lparam);
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+    case WM_SETTINGCHANGE:
+      takeLook(strip_, right_to_left_);
+      break;
+    default:
+      if (route(message, wparam, lparam, answer)) return answer;
+  }
+  return DefWindowProcW(window_, message, wparam, lparam);
+}
+
+}  // namespace tavr::win32

@@ -1,0 +1,288 @@
+#include "ui/win32/report_list.h"
+
+#include <algorithm>
+
+#include "platform/win32/wide.h"
+#include "ui/win32/artwork.h"
+#include "ui/win32/form_window.h"
+
+namespace tavr::win32 {
+
+namespace {
+
+constexpr int kRowHeight = 26;
+constexpr int kHeaderHeight = 28;
+constexpr int kPadding = 12;  // px before and behind a text
+constexpr int kSign = 16;     // px of an icon or a check box
+constexpr UINT_PTR kHeaderSubclass = 1;
+constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
+
+RECT centred(const RECT& area, int left, int size) {
+  const int top = (area.top + area.bottom - size) / 2;
+  return {left, top, left + size, top + size};
+}
+
+}  // namespace
+
+ReportList::ReportList(FormWindow& form, Control& control) : BoundControl(form, control) {
+  const DWORD direction = form.rightToLeft() ? WS_EX_LAYOUTRTL : 0;
+  create(
+      WC_LISTVIEWW,
+      LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOSORTHEADER | WS_BORDER,
+      direction);
+  ListView_SetExtendedListViewStyle(window_, kExtendedStyle);
+  SetWindowSubclass(headerWindow(), &headerProcedure, kHeaderSubclass,
+                    reinterpret_cast<DWORD_PTR>(this));
+}
+
+ReportList::~ReportList() {
+  RemoveWindowSubclass(headerWindow(), &headerProcedure, kHeaderSubclass);
+  ListView_SetImageList(window_, nullptr, LVSIL_SMALL);
+  if (row_height_ != nullptr) ImageList_Destroy(row_height_);
+}
+
+HWND ReportList::headerWindow() const { return ListView_GetHeader(window_); }
+
+// The list takes the height of its rows from its images.
+void ReportList::fontChanged() {
+  BoundControl::fontChanged();
+  const HIMAGELIST before = row_height_;
+  row_height_ = ImageList_Create(1, form_.px(kRowHeight), ILC_COLOR, 1, 1);
+  ListView_SetImageList(window_, row_height_, LVSIL_SMALL);
+  if (before != nullptr) ImageList_Destroy(before);
+  longest_ = 0;
+}
+
+void ReportList::place(const RECT& box) {
+  BoundControl::place(box);
+  spreadColumns();
+}
+
+void ReportList::makeColumns() {
+  const auto have = static_cast<std::size_t>(Header_GetItemCount(headerWindow()));
+  for (std::size_t i = 0; i < shown_columns_.size(); ++i) {
+    std::wstring text = wide(shown_columns_[i]);
+    LVCOLUMNW column{};
+    column.mask = LVCF_TEXT;
+    column.pszText = text.data();
+    if (i < have) {
+      SendMessageW(window_, LVM_SETCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
+    } else {
+      SendMessageW(window_, LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
+    }
+  }
+  InvalidateRect(headerWindow(), nullptr, FALSE);
+}
+
+void ReportList::spreadColumns() {
+  RECT area;
+  GetClientRect(window_, &area);
+  const int count = static_cast<int>(shown_columns_.size());
+  int rest = area.right;
+  for (int i = 0; i < count; ++i) {
+    const int wanted = area.right * share(static_cast<std::size_t>(i)) / 100;
+    int width = i + 1 == count ? rest : wanted;
+    rest -= width;
+    if (count == 1) width = std::max(width, longest_);
+    if (ListView_GetColumnWidth(window_, i) != width) ListView_SetColumnWidth(window_, i, width);
+  }
+}
+
+void ReportList::setHeaderStyle() {
+  const LONG before = GetWindowLongW(headerWindow(), GWL_STYLE);
+  const LONG after =
+      header().clickable() ? before | HDS_BUTTONS : before & ~static_cast<LONG>(HDS_BUTTONS);
+  if (after != before) SetWindowLongW(headerWindow(), GWL_STYLE, after);
+}
+
+void ReportList::syncOwn() {
+  if (shown_columns_ != columns()) {
+    shown_columns_ = columns();
+    makeColumns();
+  }
+  setHeaderStyle();
+  const std::size_t rows = rowCount();
+  if (rows != shown_rows_) {
+    // Rows behind the last are new: nothing that is shown changes by them.
+    const DWORD keep = rows > shown_rows_ ? LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL : 0;
+    if (rows < shown_rows_) longest_ = 0;
+    const std::size_t first_new = std::min(rows, shown_rows_);
+    shown_rows_ = rows;
+    ListView_SetItemCountEx(window_, static_cast<int>(rows), keep);
+    if (keep != 0) redraw(first_new, rows - 1);
+  }
+  spreadColumns();
+}
+
+void ReportList::redraw(std::size_t first, std::size_t last) {
+  ListView_RedrawItems(window_, static_cast<int>(first), static_cast<int>(last));
+}
+
+LRESULT ReportList::onNotify(NMHDR& notice) {
+  switch (notice.code) {
+    case NM_CUSTOMDRAW:
+      return onCustomDraw(notice);
+    case LVN_GETDISPINFOW:
+      answerText(notice);
+      return 0;
+    case NM_CLICK:
+    case NM_DBLCLK:
+      clicked(notice);
+      return 0;
+    case LVN_ITEMCHANGED: {
+      const auto& change = reinterpret_cast<const NMLISTVIEW&>(notice);
+      const bool by_keyboard = GetKeyState(VK_LBUTTON) >= 0 && GetFocus() == window_;
+      if (by_keyboard && (change.uNewState & LVIS_SELECTED) != 0 && change.iItem >= 0) {
+        onClick(static_cast<std::size_t>(change.iItem), false);
+      }
+      return 0;
+    }
+    case LVN_KEYDOWN: {
+      const int row = ListView_GetNextItem(window_, -1, LVNI_FOCUSED);
+      const auto& key = reinterpret_cast<const NMLVKEYDOWN&>(notice);
+      if (key.wVKey == VK_SPACE && row >= 0) onSpace(static_cast<std::size_t>(row));
+      return 0;
+    }
+    default:
+      return 0;
+  }
+}
+
+void ReportList::clicked(const NMHDR& notice) {
+  const auto& click = reinterpret_cast<const NMITEMACTIVATE&>(notice);
+  LVHITTESTINFO hit{};
+  hit.pt = click.ptAction;
+  const int row = ListView_SubItemHitTest(window_, &hit);
+  if (row < 0 || static_cast<std::size_t>(row) >= rowCount()) return;
+  Cell cell;
+  describe(static_cast<std::size_t>(row), 0, cell);
+  RECT bounds;
+  ListView_GetItemRect(window_, row, &bounds, LVIR_BOUNDS);
+  const bool on_box =
+      cell.has_box && click.ptAction.x < bounds.left + form_.px(kPadding + kSign + kPadding / 2);
+  onClick(static_cast<std::size_t>(row), on_box);
+}
+
+// What a screen reader and the label's tip ask for.
+void ReportList::answerText(NMHDR& notice) const {
+  LVITEMW& item = reinterpret_cast<NMLVDISPINFOW&>(notice).item;
+  const auto row = static_cast<std::size_t>(item.iItem);
+  if ((item.mask & LVIF_TEXT) == 0 || item.cchTextMax <= 0 || row >= rowCount()) return;
+  Cell cell;
+  describe(row, static_cast<std::size_t>(item.iSubItem), cell);
+  const std::wstring text = wide(cell.text);
+  lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
+}
+
+LRESULT ReportList::onCustomDraw(NMHDR& notice) {
+  auto& drawing = reinterpret_cast<NMLVCUSTOMDRAW&>(notice);
+  if (drawing.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  if (drawing.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
+  const auto row = static_cast<std::size_t>(drawing.nmcd.dwItemSpec);
+  if (row < rowCount()) drawRow(drawing.nmcd.hdc, row);
+  return CDRF_SKIPDEFAULT;
+}
+
+void ReportList::drawRow(HDC dc, std::size_t row) {
+  const Palette& palette = form_.palette();
+  const int item = static_cast<int>(row);
+  RECT area;
+  ListView_GetItemRect(window_, item, &area, LVIR_BOUNDS);
+  const bool selected = ListView_GetItemState(window_, item, LVIS_SELECTED) != 0;
+  form_.fill(dc, area, selected ? palette.selection : palette.panel);
+  int left = area.left;
+  for (std::size_t i = 0; i < shown_columns_.size(); ++i) {
+    RECT part = area;
+    part.left = left;
+    part.right = left + ListView_GetColumnWidth(window_, static_cast<int>(i));
+    left = part.right;
+    Cell cell;
+    cell.color = control_.enabled ? palette.text : palette.faint_text;
+    describe(row, i, cell);
+    drawCell(dc, part, cell);
+  }
+  const bool focused = selected && GetFocus() == window_ && form_.showsFocus();
+  if (focused) DrawFocusRect(dc, &area);
+}
+
+void ReportList::drawBox(HDC dc, RECT& area, bool checked) {
+  CheckBox box;
+  DrawnState state;
+  state.scale = form_.scale();
+  const RECT sign = centred(area, area.left, form_.px(kSign));
+  drawCheckBox(dc, sign, box, checked ? 1 : 0, state, form_.palette());
+  area.left = sign.right + form_.px(kPadding / 2);
+}
+
+void ReportList::drawCell(HDC dc, RECT area, const Cell& cell) {
+  area.left += form_.px(kPadding);
+  area.right -= form_.px(kPadding);
+  if (cell.has_box) drawBox(dc, area, cell.checked);
+  if (!cell.icon.empty()) {
+    const RECT sign = centred(area, area.left, form_.px(kSign));
+    drawIcon(dc, sign, cell.icon, cell.icon_color, form_.scale());
+    area.left = sign.right + form_.px(kPadding / 2);
+  }
+  const std::wstring text = wide(cell.text);
+  const HGDIOBJ before = SelectObject(dc, form_.fonts().get(control_.font, cell.bold));
+  SetBkMode(dc, TRANSPARENT);
+  SetTextColor(dc, cell.color);
+  const UINT side = cell.at_far_edge ? DT_RIGHT : DT_LEFT;
+  const UINT too_long = shown_columns_.size() > 1 ? DT_END_ELLIPSIS : 0;
+  DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &area,
+            DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | side | too_long);
+  if (shown_columns_.size() == 1) {
+    SIZE size{};
+    GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
+    longest_ = std::max(longest_, static_cast<int>(size.cx) + form_.px(4 * kPadding));
+  }
+  SelectObject(dc, before);
+}
+
+void ReportList::paintHeader(HWND window, HDC dc) const {
+  const Palette& palette = form_.palette();
+  RECT area;
+  GetClientRect(window, &area);
+  form_.fill(dc, area, palette.raised);
+  const HGDIOBJ before = SelectObject(dc, form_.fonts().get(control_.font, true));
+  SetBkMode(dc, TRANSPARENT);
+  SetTextColor(dc, palette.faint_text);
+  for (std::size_t i = 0; i < shown_columns_.size(); ++i) {
+    RECT part;
+    Header_GetItemRect(window, static_cast<int>(i), &part);
+    InflateRect(&part, -form_.px(kPadding), 0);
+    const std::wstring text = wide(shown_columns_[i]);
+    const UINT side = i > 0 && i + 1 == shown_columns_.size() ? DT_RIGHT : DT_LEFT;
+    DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &part,
+              DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | side);
+  }
+  SelectObject(dc, before);
+  form_.fill(dc, {area.left, area.bottom - 1, area.right, area.bottom}, palette.border);
+}
+
+LRESULT CALLBACK ReportList::headerProcedure(HWND window, UINT message, WPARAM wparam,
+                                             LPARAM lparam, UINT_PTR /*id*/, DWORD_PTR data) {
+  const auto& list = *reinterpret_cast<const ReportList*>(data);
+  switch (message) {
+    case HDM_LAYOUT: {
+      const LRESULT answer = DefSubclassProc(window, message, wparam, lparam);
+      const auto& layout = *reinterpret_cast<HDLAYOUT*>(lparam);
+      const int height = list.form_.px(kHeaderHeight);
+      layout.prc->top += height - layout.pwpos->cy;
+      layout.pwpos->cy = height;
+      return answer;
+    }
+    case WM_PAINT: {
+      PAINTSTRUCT painting;
+      list.paintHeader(window, BeginPaint(window, &painting));
+      EndPaint(window, &painting);
+      return 0;
+    }
+    case WM_ERASEBKGND:
+      return 1;
+    default:
+      return DefSubclassProc(window, message, wparam, lparam);
+  }
+}
+
+}  // namespace tavr::win32

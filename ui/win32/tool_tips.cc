@@ -1,0 +1,44 @@
+#include "ui/win32/tool_tips.h"
+
+#include <commctrl.h>
+
+#include "platform/win32/wide.h"
+#include "ui/win32/bound_control.h"
+
+namespace tavr::win32 {
+
+ToolTips::ToolTips(HWND form, bool right_to_left)
+    : form_(form),
+      tips_(CreateWindowExW(WS_EX_TOPMOST | (right_to_left ? WS_EX_LAYOUTRTL : 0U), TOOLTIPS_CLASSW,
+                            nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0, 0, form,
+                            nullptr, GetModuleHandleW(nullptr), nullptr)) {}
+
+ToolTips::~ToolTips() {
+  if (tips_ != nullptr) DestroyWindow(tips_);
+}
+
+void ToolTips::add(HWND window) {
+  TTTOOLINFOW tool{};
+  tool.cbSize = sizeof(tool);
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.hwnd = form_;
+  tool.uId = reinterpret_cast<UINT_PTR>(window);
+  tool.lpszText = LPSTR_TEXTCALLBACKW;
+  SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+bool ToolTips::answer(NMHDR& notice) {
+  if (notice.code != TTN_GETDISPINFOW) return false;
+  auto& info = reinterpret_cast<NMTTDISPINFOW&>(notice);
+  const BoundControl* const bound = BoundControl::of(reinterpret_cast<HWND>(notice.idFrom));
+  if (!bound) return true;
+  const Control& control = bound->control();
+  const bool tool = control.design.kind == ControlKind::kToolbarButton;
+  // Kept until the next question: the tip holds no longer text by itself.
+  static std::wstring text;
+  text = wide(control.tool_tip.empty() && tool ? control.caption : control.tool_tip);
+  info.lpszText = text.data();
+  return true;
+}
+
+}  // namespace tavr::win32

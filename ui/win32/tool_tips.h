@@ -1,0 +1,27 @@
+// The tips of a form's controls: a control's own text, and the caption of a
+// tool, which shows only its picture.
+#pragma once
+
+#include <windows.h>
+
+#include "forms/control.h"
+
+namespace tavr::win32 {
+
+class ToolTips {
+ public:
+  ToolTips(HWND form, bool right_to_left);
+  ~ToolTips();
+  ToolTips(const ToolTips&) = delete;
+  ToolTips& operator=(const ToolTips&) = delete;
+
+  void add(HWND window);
+  /// Answers what a tip asks for; false when the notice is none of a tip.
+  static bool answer(NMHDR& notice);
+
+ private:
+  HWND form_;
+  HWND tips_;
+};
+
+}  // namespace tavr::win32
