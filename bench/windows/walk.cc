@@ -10,11 +10,6 @@
 
 namespace {
 
-struct Totals {
-  long long files = 0;
-  long long bytes = 0;
-};
-
 void erase(const std::wstring& path) {
   static std::vector<unsigned char> descriptor(4096);
   DWORD size = 0;
@@ -27,7 +22,7 @@ void erase(const std::wstring& path) {
   DeleteFileW(path.c_str());
 }
 
-void walk(const std::wstring& folder, bool deleting, std::FILE* list, Totals& totals) {
+void walk(const std::wstring& folder, bool deleting, std::vector<std::wstring>& list) {
   WIN32_FIND_DATAW found;
   const HANDLE search = FindFirstFileW((folder + L"*").c_str(), &found);
   if (search == INVALID_HANDLE_VALUE) return;
@@ -36,15 +31,13 @@ void walk(const std::wstring& folder, bool deleting, std::FILE* list, Totals& to
     if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
       const bool itself = std::wcscmp(found.cFileName, L".") == 0;
       if (itself || std::wcscmp(found.cFileName, L"..") == 0) continue;
-      walk(path + L"\\", deleting, list, totals);
+      walk(path + L"\\", deleting, list);
       continue;
     }
-    ++totals.files;
-    totals.bytes += found.nFileSizeLow;
     if (deleting) {
       erase(path);
     } else {
-      std::fprintf(list, "%lu %ls\n", found.nFileSizeLow, path.c_str());
+      list.push_back(path);
     }
   } while (FindNextFileW(search, &found) != FALSE);
   FindClose(search);
@@ -58,11 +51,7 @@ int wmain(int argc, wchar_t** argv) {
     std::fputs("usage: walk list|erase FOLDER\n", stderr);
     return 2;
   }
-  std::FILE* const list = std::fopen("NUL", "w");
-  if (list == nullptr) return 2;
-  Totals totals;
-  walk(std::wstring(argv[2]) + L"\\", mode == L"erase", list, totals);
-  std::fclose(list);
-  std::printf("%lld files, %lld bytes\n", totals.files, totals.bytes);
+  std::vector<std::wstring> list;
+  walk(std::wstring(argv[2]) + L"\\", mode == L"erase", list);
   return 0;
 }

@@ -6,23 +6,37 @@
 
 namespace tavr::win32 {
 
-Status Win32Accounts::sidOf(std::string_view account, std::string& sid) {
-  sid.clear();
-  const std::wstring name = wide(account);
-  DWORD size = 0;
-  DWORD domain_size = 0;
+namespace {
+
+constexpr std::uint64_t kHolds = 1000;  // ms
+constexpr DWORD kLongestDomain = 256;   // characters, a DNS name's limit and its end
+
+Status lookUp(std::string_view account, std::string& sid) {
+  sid.assign(SECURITY_MAX_SID_SIZE, '\0');
+  std::wstring domain(kLongestDomain, L'\0');
+  DWORD size = SECURITY_MAX_SID_SIZE;
+  DWORD domain_size = kLongestDomain;
   SID_NAME_USE use = SidTypeUnknown;
-  LookupAccountNameW(nullptr, name.c_str(), nullptr, &size, nullptr, &domain_size, &use);
-  if (GetLastError() != ERROR_INSUFFICIENT_BUFFER) return GetLastError();
-  std::string bytes(size, '\0');
-  std::wstring domain(domain_size, L'\0');
-  if (!LookupAccountNameW(nullptr, name.c_str(), bytes.data(), &size, domain.data(), &domain_size,
-                          &use)) {
-    return GetLastError();
+  const bool found = LookupAccountNameW(nullptr, wide(account).c_str(), sid.data(), &size,
+                                        domain.data(), &domain_size, &use) != FALSE;
+  const Status status = found ? kSuccess : GetLastError();
+  sid.resize(found ? GetLengthSid(sid.data()) : 0);
+  return status;
+}
+
+}  // namespace
+
+Status Win32Accounts::sidOf(std::string_view account, std::string& sid) {
+  const std::uint64_t now = GetTickCount64();
+  if (now < known_until_ && account == known_account_) {
+    sid = known_sid_;
+    return kSuccess;
   }
-  bytes.resize(GetLengthSid(bytes.data()));
-  sid = std::move(bytes);
-  return kSuccess;
+  const Status status = lookUp(account, sid);
+  known_until_ = status == kSuccess ? now + kHolds : 0;
+  known_account_ = account;
+  known_sid_ = sid;
+  return status;
 }
 
 }  // namespace tavr::win32
