@@ -7,6 +7,7 @@
 #include "engine/start.h"
 #include "platform/win32/wide.h"
 #include "platform/win32/win32_machine.h"
+#include "ui/win32/windows_app.h"
 
 namespace {
 
@@ -21,31 +22,23 @@ void searchLibrariesInSystemFolder() {
   SetSearchPathMode(BASE_SEARCH_PATH_ENABLE_SAFE_SEARCHMODE | BASE_SEARCH_PATH_PERMANENT);
 }
 
-bool quitAsked() {
-  MSG message = {};
-  return PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_NOREMOVE) != 0;
-}
-
-// Serves the program until something in it ends the process, which passes
-// through here, or the session asks it to go.
-void pumpUntilClosed(tavr::Program& program) {
-  constexpr std::uint32_t kBetweenLooks = 100;  // ms
-  while (!quitAsked()) program.machine.events.wait(kBetweenLooks);
-}
-
-// An unattended start ends by ending the process; so does closing the form.
-int runOn(tavr::Machine& machine, const std::string& arguments) {
+// An unattended start makes no window and ends by ending the process. False: by
+// an error that no statement caught.
+bool runToItsEnd(tavr::Program& program) {
   try {
-    tavr::Program program(machine);
-    tavr::Form_Initialize(program, arguments);
     tavr::Form_Load(program);
-    pumpUntilClosed(program);
   } catch (const tavr::ProcessEnd&) {
-    // The usual end: everything has been unwound.
+    return true;
   } catch (const tavr::RuntimeError&) {
-    return kNotCarriedOut;
   }
-  return kDone;
+  return false;
+}
+
+bool runOn(tavr::win32::Win32Machine& machine, const std::string& arguments) {
+  tavr::Program program(machine.machine());
+  tavr::Form_Initialize(program, arguments);
+  if (program.form.unattended == 1) return runToItsEnd(program);
+  return tavr::win32::runWindows(program, machine);
 }
 
 }  // namespace
@@ -53,5 +46,5 @@ int runOn(tavr::Machine& machine, const std::string& arguments) {
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR arguments, int) {
   searchLibrariesInSystemFolder();
   tavr::win32::Win32Machine machine;
-  return runOn(machine.machine(), tavr::win32::narrow(arguments));
+  return runOn(machine, tavr::win32::narrow(arguments)) ? kDone : kNotCarriedOut;
 }

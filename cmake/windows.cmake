@@ -19,11 +19,11 @@ endforeach()
 configure_file(resources/tavrwipe.manifest ${PROJECT_BINARY_DIR}/generated/tavrwipe.manifest @ONLY)
 configure_file(resources/tavrwipe.rc ${PROJECT_BINARY_DIR}/generated/tavrwipe.rc @ONLY)
 set_source_files_properties(${PROJECT_BINARY_DIR}/generated/tavrwipe.rc PROPERTIES OBJECT_DEPENDS
-  "${PROJECT_SOURCE_DIR}/resources/tavrwipe.ico;${PROJECT_BINARY_DIR}/generated/tavrwipe.manifest")
+  "${PROJECT_SOURCE_DIR}/resources/tavrwipe.ico;${PROJECT_SOURCE_DIR}/resources/search.gif;${PROJECT_BINARY_DIR}/generated/tavrwipe.manifest")
 
 enable_language(RC)
 add_executable(tavrwipe WIN32 app/windows_main.cc ${PROJECT_BINARY_DIR}/generated/tavrwipe.rc)
 target_include_directories(tavrwipe PRIVATE ${PROJECT_BINARY_DIR}/generated)
 target_link_options(tavrwipe PRIVATE -static -municode -s -Wl,--gc-sections
                     -Wl,--no-insert-timestamp -Wl,--build-id=none)
-target_link_libraries(tavrwipe PRIVATE tavr_engine tavr_win32)
+target_link_libraries(tavrwipe PRIVATE tavr_ui_win32)

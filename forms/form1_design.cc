@@ -33,18 +33,18 @@ constexpr ControlDesign menuSeparator(std::string_view name, int top) {
 
 constexpr ControlDesign command(std::string_view name, int top, int tab, std::string_view caption,
                                 bool enabled = true) {
-  return {name, -1, kButton, "", {12, top, 184, 38}, tab, caption, true, enabled};
+  return {name, -1, kButton, "", {12, top, 200, 38}, tab, caption, true, enabled};
 }
 
 // The big buttons lie under the command column: they carry the handlers.
 constexpr ControlDesign core(std::string_view name, int top, std::string_view caption) {
-  return {name, -1, kButton, "", {12, top, 184, 38}, -1, caption, false};
+  return {name, -1, kButton, "", {12, top, 200, 38}, -1, caption, false};
 }
 
 constexpr ControlDesign kDesign[] = {
     // Title strip, 40 high.
     {"Label88", 6, kLabel, "", {42, 8, 240, 24}, -1, "Spoorwipe"},
-    {"chameleonButton12", -1, kButton, "", {730, 4, 90, 32}, 20, "Language"},
+    {"chameleonButton12", -1, kButton, "", {708, 4, 112, 32}, 20, "Language"},
     {"chameleonButton13", -1, kButton, "", {826, 4, 40, 32}, 21, "?"},
     {"chameleonButton10", -1, kButton, "", {870, 4, 40, 32}, 22, "\u2014"},
     {"chameleonButton9", -1, kButton, "", {914, 4, 40, 32}, 23, "\u2715"},
@@ -83,20 +83,20 @@ constexpr ControlDesign kDesign[] = {
     core("chameleonButton5", 282, "Erase"),
     core("chameleonButton1", 386, "View log"),
     core("chameleonButton2", 428, "Clear log"),
-    {"Image44", -1, kPicture, "", {12, 491, 24, 24}, -1, ""},
-    {"chameleonButton4", -1, kButton, "", {40, 484, 144, 38}, 8, "Help"},
-    {"chameleonButton11", -1, kButton, "", {12, 526, 104, 38}, 9, "Exit"},
-    {"Label222", -1, kLabel, "", {124, 534, 60, 22}, -1, ""},
+    {"Image44", -1, kPicture, "", {24, 493, 15, 20}, -1, ""},
+    {"chameleonButton4", -1, kButton, "", {39, 484, 173, 38}, 8, "Help"},
+    {"chameleonButton11", -1, kButton, "", {12, 526, 136, 38}, 9, "Exit"},
+    {"Label222", -1, kLabel, "", {156, 534, 56, 22}, -1, ""},
     // The tables.
-    {"View100", -1, kListView, "", {212, 94, 732, 256}, 10, ""},
-    {"View200", -1, kListView, "", {212, 362, 732, 206}, 11, ""},
+    {"View100", -1, kListView, "", {240, 94, 704, 273}, 10, ""},
+    {"View200", -1, kListView, "", {240, 379, 704, 189}, 11, ""},
     // The foot.
-    {"Label1", 1, kLabel, "", {18, 590, 150, 18}, -1, "Registry"},
-    {"Label3", -1, kLabel, "", {176, 590, 150, 18}, -1, "Files"},
-    {"Label5", -1, kLabel, "", {334, 590, 170, 18}, -1, "Disk space"},
-    {"Label2", -1, kLabel, "", {18, 608, 150, 26}, -1, "0"},
-    {"Label4", -1, kLabel, "", {176, 608, 150, 26}, -1, "0"},
-    {"Label6", -1, kLabel, "", {334, 608, 170, 26}, -1, "0"},
+    {"Label1", 1, kLabel, "", {24, 590, 150, 18}, -1, "Registry"},
+    {"Label3", -1, kLabel, "", {182, 590, 150, 18}, -1, "Files"},
+    {"Label5", -1, kLabel, "", {340, 590, 164, 18}, -1, "Disk space"},
+    {"Label2", -1, kLabel, "", {24, 608, 150, 26}, -1, "0"},
+    {"Label4", -1, kLabel, "", {182, 608, 150, 26}, -1, "0"},
+    {"Label6", -1, kLabel, "", {340, 608, 164, 26}, -1, "0"},
     {"bar1", -1, kProgressBar, "", {512, 606, 250, 10}, -1, "", false},
     {"Label1", 0, kLabel, "", {770, 600, 130, 22}, -1, "Working ...", false},
     {"Gif89a1", -1, kPicture, "", {908, 592, 36, 36}, -1, "", false},

@@ -25,7 +25,7 @@ std::array<ChameleonButton, sizeof...(kNumbers)> buttons(
 }  // namespace
 
 Form2::Form2(Machine& machine)
-    : Form("Form2", "Erasing Settings", 960, 560),
+    : Form("Form2", "Erasing Settings", 800, 540),
       chameleonButton(buttons(machine.events, std::make_index_sequence<32>())),
       chameleonButton32(machine.events),
       File1(machine.files) {

@@ -8,8 +8,8 @@
 
 namespace tavr {
 
-inline constexpr int kForm3Width = 880;  ///< pixels at 96 dpi
-inline constexpr int kForm3Height = 560;
+inline constexpr int kForm3Width = 800;  ///< pixels at 96 dpi
+inline constexpr int kForm3Height = 540;
 
 extern const std::span<const ControlDesign> kForm3Design;
 

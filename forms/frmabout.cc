@@ -8,13 +8,13 @@ using enum ControlKind;
 
 constexpr ControlDesign kDesign[] = {
     {"Label222", 1, kLabel, "", {16, 8, 388, 24}, -1, "About"},
-    {"Label1", -1, kLabel, "", {16, 48, 388, 28}, -1, "Spoorwipe"},
-    {"Label3", -1, kLabel, "", {16, 80, 388, 22}, -1, ""},
-    {"Label2", 3, kLabel, "", {16, 120, 300, 22}, 0, "Visit our web site"},
-    {"Label2", 2, kLabel, "", {16, 146, 300, 22}, 1, "Download plug-ins"},
-    {"Label2", 1, kLabel, "", {16, 172, 300, 22}, 2, "Contact support"},
-    {"Label2", 0, kLabel, "", {16, 198, 300, 22}, 3, "Translate the program"},
-    {"chameleonButton1", -1, kButton, "", {300, 236, 104, 36}, 4, "OK"},
+    {"Label1", -1, kLabel, "", {24, 52, 372, 28}, -1, "Spoorwipe"},
+    {"Label3", -1, kLabel, "", {24, 84, 372, 22}, -1, ""},
+    {"Label2", 3, kLabel, "", {24, 124, 300, 22}, 0, "Visit our web site"},
+    {"Label2", 2, kLabel, "", {24, 152, 300, 22}, 1, "Download plug-ins"},
+    {"Label2", 1, kLabel, "", {24, 180, 300, 22}, 2, "Contact support"},
+    {"Label2", 0, kLabel, "", {24, 208, 300, 22}, 3, "Translate the program"},
+    {"chameleonButton1", -1, kButton, "", {292, 236, 112, 36}, 4, "OK"},
 };
 
 }  // namespace

@@ -10,3 +10,8 @@ add_executable(sleeper WIN32 windows/sleeper.cc)
 add_dependencies(test_contract sleeper)
 
 include(windows/programs.cmake)
+
+include(windows/drawing.cmake)
+
+include(windows/accessible.cmake)
+include(windows/window.cmake)

@@ -100,6 +100,16 @@ std::vector<std::string> RegistryImage::apply(const std::vector<RegistryLine>& l
   return complaints;
 }
 
+void RegistryImage::changeAs(const RegistryImage& from, const RegistryImage& to) {
+  for (const auto& [id, item] : from.items_) {
+    if (!to.items_.contains(id)) items_.erase(id);
+  }
+  for (const auto& [id, item] : to.items_) {
+    const auto found = from.items_.find(id);
+    if (found == from.items_.end() || found->second != item) items_[id] = item;
+  }
+}
+
 std::vector<std::string> RegistryImage::differences(const RegistryImage& actual) const {
   const auto shown = [](char sign, const Item& item) {
     return std::string(1, sign) + " " + item.name + (item.value.empty() ? "" : " = " + item.value);

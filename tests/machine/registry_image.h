@@ -21,6 +21,9 @@ class RegistryImage {
   /// a removed key or value that was not there, a line that changes nothing.
   std::vector<std::string> apply(const std::vector<RegistryLine>& lines);
 
+  /// Makes the changes that lead from one registry to another.
+  void changeAs(const RegistryImage& from, const RegistryImage& to);
+
   /// "-" lines for what is missing in `actual`, "+" lines for what it has more,
   /// both for a value that differs.
   std::vector<std::string> differences(const RegistryImage& actual) const;

@@ -20,10 +20,19 @@ namespace {
 // folders with names of the cache's choice.
 std::string placeFor(const std::string& url, const std::string& file) {
   std::string place = contract::cacheFilePath(url, file);
+  // The cache has made the file already.
+  DeleteFileW(wide(place).c_str());
   if (url.starts_with("Cookie:")) {
     place = place.substr(0, place.rfind('\\')) + file.substr(file.rfind('\\'));
   }
   return place;
+}
+
+void makeEmpty(const std::string& file) {
+  const HANDLE made = CreateFileW(wide(file).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+  require(made != INVALID_HANDLE_VALUE, file);
+  CloseHandle(made);
 }
 
 }  // namespace
@@ -40,6 +49,7 @@ std::string plantCacheEntry(std::uint32_t type, const std::string& url, const st
     require(MoveFileExW(wide(file).c_str(), wide(place).c_str(), MOVEFILE_REPLACE_EXISTING), place);
     SetFileAttributesW(wide(place).c_str(), marks);
   }
+  if (marks == INVALID_FILE_ATTRIBUTES) makeEmpty(place);
   contract::commitCacheEntry(type, url, place);
   // An entry is committed with its file and may lose it later.
   if (marks == INVALID_FILE_ATTRIBUTES) require(DeleteFileW(wide(place).c_str()), place);

@@ -3,14 +3,17 @@
 //
 //   env NAME VALUE        for every program started from here on
 //   start IMAGE           a process of that name, which does nothing
+//   guard                 nobody may open the processes started so far
 //   hold PATH             opens the file and shares it with nobody
 //   cache TYPE URL FILE   an entry of the URL cache; FILE may be empty
 //   recycle PATH          the file or folder, into the recycle bin
 //   parent TITLE FILE     a window; the texts it is told go to FILE
 //   answer TEXT yes|no    message boxes that hold TEXT (or any, if it is empty)
 //   run COMMAND           a program, to its end; prints its status
-//   pause NAME            writes NAME.reg, NAME.processes and NAME.cache beside the
-//                         orders, then waits until there is NAME.go
+//   list NAME             writes the URL cache to NAME.cache beside the orders; to
+//                         look makes an index of the cache that is missing
+//   pause NAME            writes NAME.reg and NAME.processes beside the orders, then
+//                         waits until there is NAME.go
 //
 // What cannot be planted is printed and ends it with status 1.
 #include <windows.h>
@@ -43,11 +46,23 @@ using win32::wide;
 constexpr DWORD kLongestRun = 60'000;     // ms
 constexpr DWORD kLongestPause = 120'000;  // ms; nobody waits for it any more
 constexpr DWORD kBetweenLooks = 10;       // ms
+constexpr int kStarts = 3;
 
 void writeFile(const std::string& path, const std::string& text) {
   std::ofstream out(path, std::ios::binary);  // ASCII only
   out << text;
   require(static_cast<bool>(out.flush()), path);
+}
+
+// Under load Wine gives up a start now and then, with ERROR_INTERNAL_ERROR.
+HANDLE startSleeper(const std::string& image) {
+  for (int i = 1; i < kStarts; ++i) {
+    try {
+      return contract::startSleeper(image).handle;
+    } catch (const std::runtime_error&) {
+    }
+  }
+  return contract::startSleeper(image).handle;
 }
 
 class Session {
@@ -71,6 +86,8 @@ class Session {
       SetEnvironmentVariableW(wide(word(1)).c_str(), wide(word(2)).c_str());
     } else if (order == "start") {
       start(word(1));
+    } else if (order == "guard") {
+      for (const auto& [image, process] : processes_) guard(process);
     } else if (order == "hold") {
       hold(word(1));
     } else if (order == "cache") {
@@ -86,6 +103,8 @@ class Session {
     } else if (order == "run") {
       if (!answering_ && !answers_.empty()) answering_ = std::make_unique<BoxAnswers>(answers_);
       std::printf("status %lu\n", run(word(1)));
+    } else if (order == "list") {
+      writeFile(folder_ + word(1) + ".cache", listCacheEntries());
     } else if (order == "pause") {
       pause(word(1));
     } else {
@@ -98,7 +117,17 @@ class Session {
     const std::string place = folder_ + "processes\\" + std::to_string(processes_.size());
     CreateDirectoryW(wide(folder_ + "processes").c_str(), nullptr);
     CreateDirectoryW(wide(place).c_str(), nullptr);
-    processes_.emplace_back(image, contract::startSleeper(place + "\\" + image).handle);
+    processes_.emplace_back(image, startSleeper(place + "\\" + image));
+  }
+
+  // By an access list without an entry.
+  static void guard(HANDLE process) {
+    ACL list = {};
+    SECURITY_DESCRIPTOR descriptor = {};
+    require(InitializeAcl(&list, sizeof(list), ACL_REVISION), "an access list");
+    require(InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION), "guard");
+    require(SetSecurityDescriptorDacl(&descriptor, TRUE, &list, FALSE), "guard");
+    require(SetKernelObjectSecurity(process, DACL_SECURITY_INFORMATION, &descriptor), "guard");
   }
 
   void hold(const std::string& path) {
@@ -120,9 +149,11 @@ class Session {
     STARTUPINFOW startup = {};
     startup.cb = sizeof(startup);
     PROCESS_INFORMATION process = {};
-    require(CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                           &startup, &process),
-            command);
+    for (int i = 0; i < kStarts && process.hProcess == nullptr; ++i) {
+      CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                     &process);
+    }
+    require(process.hProcess != nullptr, command);
     CloseHandle(process.hThread);
     DWORD status = 0;
     if (WaitForSingleObject(process.hProcess, kLongestRun) != WAIT_OBJECT_0) {
@@ -140,7 +171,6 @@ class Session {
       if (WaitForSingleObject(process, 0) == WAIT_TIMEOUT) alive += image + "\n";
     }
     writeFile(folder_ + name + ".processes", alive);
-    writeFile(folder_ + name + ".cache", listCacheEntries());
     writeFile(folder_ + "moved", moved_);
     writeFile(folder_ + name + ".part", exportRegistry());
     // Under its name when it is whole: it is what is waited for.

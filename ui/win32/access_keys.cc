@@ -12,6 +12,20 @@ namespace {
 
 constexpr char32_t kFirstIdeograph = 0x2E80;
 
+struct DefaultButton {
+  std::string_view form;
+  std::string_view button;
+};
+
+// The main form has none: Enter from its tables would erase. Nor have the
+// erasing settings, where every box acts at once.
+constexpr DefaultButton kDefaults[] = {
+    {"Form3", "chameleonButton9"},  // of the panel that is open
+    {"Form3", "chameleonButton5"},    {"Form4", "command2"},
+    {"Form52", "keepbutton7"},        {"frmmsg", "chameleonButton1"},
+    {"frmabout", "chameleonButton1"},
+};
+
 // A letter that a keyboard of its script has on a key: Latin, Greek, Cyrillic,
 // Hebrew, Arabic, and digits.
 bool isTyped(char32_t c) {
@@ -75,6 +89,14 @@ std::vector<AccessKey> accessKeys(const Form& form) {
     keys.push_back(key);
   }
   return keys;
+}
+
+Button* defaultButton(const Form& form) {
+  for (const DefaultButton& row : kDefaults) {
+    Control* const button = row.form == form.name() ? form.find(row.button) : nullptr;
+    if (button && button->enabled && inSight(form, *button)) return dynamic_cast<Button*>(button);
+  }
+  return nullptr;
 }
 
 std::string captionWithKey(const AccessKey& key) {

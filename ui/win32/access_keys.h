@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "forms/controls.h"
 #include "forms/form.h"
 
 namespace tavr::win32 {
@@ -21,6 +22,9 @@ struct AccessKey {
 /// script that no keyboard types directly, and a caption without a free letter,
 /// gets a free Latin one.
 std::vector<AccessKey> accessKeys(const Form& form);
+
+/// What Enter presses from a control that makes nothing of it; null for none.
+Button* defaultButton(const Form& form);
 
 /// The caption as it is shown while ALT is held: one without the letter gets it
 /// in brackets behind.

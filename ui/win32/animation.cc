@@ -27,6 +27,35 @@ std::vector<int> readDelays(Gdiplus::Bitmap& picture, int frames) {
   return delays;
 }
 
+// What the program carries under the file's name, as a stream that owns a copy
+// of it; null for none.
+IStream* ownData(const std::wstring& file) {
+  const std::wstring name = file.substr(file.find_last_of(L"\\/") + 1);
+  const HRSRC place = FindResourceW(nullptr, name.c_str(), RT_RCDATA);
+  const HGLOBAL loaded = place == nullptr ? nullptr : LoadResource(nullptr, place);
+  const void* const data = loaded == nullptr ? nullptr : LockResource(loaded);
+  IStream* stream = nullptr;
+  if (data == nullptr || FAILED(CreateStreamOnHGlobal(nullptr, TRUE, &stream))) return nullptr;
+  ULONG written = 0;
+  const DWORD size = SizeofResource(nullptr, place);
+  if (SUCCEEDED(stream->Write(data, size, &written)) && written == size) return stream;
+  stream->Release();
+  return nullptr;
+}
+
+bool isRead(Gdiplus::Bitmap& picture) { return picture.GetLastStatus() == Gdiplus::Ok; }
+
+std::unique_ptr<Gdiplus::Bitmap> pictureOf(const std::wstring& file) {
+  auto picture = std::make_unique<Gdiplus::Bitmap>(file.c_str());
+  if (isRead(*picture)) return picture;
+  IStream* const stream = ownData(file);
+  if (stream == nullptr) return nullptr;
+  picture = std::make_unique<Gdiplus::Bitmap>(stream);
+  // The picture holds the stream as long as it needs it.
+  stream->Release();
+  return isRead(*picture) ? std::move(picture) : nullptr;
+}
+
 void CALLBACK onTimer(HWND, UINT, UINT_PTR id, DWORD) {
   reinterpret_cast<Animation*>(id)->advance();
 }
@@ -34,9 +63,7 @@ void CALLBACK onTimer(HWND, UINT, UINT_PTR id, DWORD) {
 }  // namespace
 
 struct Animation::Pictures {
-  explicit Pictures(const std::wstring& file) : picture(file.c_str()) {}
-
-  Gdiplus::Bitmap picture;
+  std::unique_ptr<Gdiplus::Bitmap> picture;
   int frames = 0;
   int frame = 0;
   std::vector<int> delays;
@@ -50,11 +77,12 @@ bool Animation::load(std::string_view file) {
   stop();
   pictures_.reset();
   startGdiPlus();
-  auto loaded = std::make_unique<Pictures>(wide(file));
-  if (loaded->picture.GetLastStatus() != Gdiplus::Ok) return false;
+  auto loaded = std::make_unique<Pictures>();
+  loaded->picture = pictureOf(wide(file));
+  if (loaded->picture == nullptr) return false;
   const GUID time = Gdiplus::FrameDimensionTime;
-  loaded->frames = std::max(1, static_cast<int>(loaded->picture.GetFrameCount(&time)));
-  loaded->delays = readDelays(loaded->picture, loaded->frames);
+  loaded->frames = std::max(1, static_cast<int>(loaded->picture->GetFrameCount(&time)));
+  loaded->delays = readDelays(*loaded->picture, loaded->frames);
   pictures_ = std::move(loaded);
   return true;
 }
@@ -70,8 +98,8 @@ int Animation::delay(int index) const {
 
 SIZE Animation::size() const {
   if (!pictures_) return {0, 0};
-  return {static_cast<LONG>(pictures_->picture.GetWidth()),
-          static_cast<LONG>(pictures_->picture.GetHeight())};
+  return {static_cast<LONG>(pictures_->picture->GetWidth()),
+          static_cast<LONG>(pictures_->picture->GetHeight())};
 }
 
 void Animation::start(HWND window) {
@@ -92,7 +120,7 @@ void Animation::advance() {
   const int before = delay(frame());
   pictures_->frame = (pictures_->frame + 1) % pictures_->frames;
   const GUID time = Gdiplus::FrameDimensionTime;
-  pictures_->picture.SelectActiveFrame(&time, static_cast<UINT>(pictures_->frame));
+  pictures_->picture->SelectActiveFrame(&time, static_cast<UINT>(pictures_->frame));
   if (window_ == nullptr) return;
   InvalidateRect(window_, nullptr, FALSE);
   if (delay(frame()) == before) return;
@@ -110,7 +138,7 @@ void Animation::draw(HDC dc, const RECT& area) const {
   graphics.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBicubic);
   graphics.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
   graphics.DrawImage(
-      &pictures_->picture, static_cast<INT>(area.left + (area.right - area.left - width) / 2),
+      pictures_->picture.get(), static_cast<INT>(area.left + (area.right - area.left - width) / 2),
       static_cast<INT>(area.top + (area.bottom - area.top - height) / 2), width, height);
 }
 

@@ -1,5 +1,5 @@
 // An animated picture from a file, as the one that moves while a run is under
-// way. It shows nothing when the file cannot be read.
+// way. It shows nothing when there is neither the file nor one in the program.
 #pragma once
 
 #include <windows.h>
@@ -17,7 +17,9 @@ class Animation {
   Animation& operator=(const Animation&) = delete;
 
   /// Takes the place of what was loaded, at its first frame; a running animation
-  /// stops. False: the file is missing or no picture, and nothing is loaded.
+  /// stops. A file that cannot be read is looked for under its name among the
+  /// program's own data (RCDATA). False: it is not there either, and nothing is
+  /// loaded.
   bool load(std::string_view file);
 
   int frames() const;          ///< 0: nothing is loaded

@@ -99,8 +99,10 @@ void drawOutline(HDC dc, const RECT& area, std::string_view name, const IconPain
   if (icon == nullptr || IsRectEmpty(&area)) return;
   const LONG most = std::lround(icon->size * scale);
   const LONG size = std::min({area.right - area.left, area.bottom - area.top, most});
-  const Spot origin{static_cast<double>(area.left + (area.right - area.left - size) / 2),
-                    static_cast<double>(area.top + (area.bottom - area.top - size) / 2)};
+  // A whole pixel, or straight lines would be blurred.
+  const LONG left = area.left + (area.right - area.left - size) / 2;
+  const LONG top = area.top + (area.bottom - area.top - size) / 2;
+  const Spot origin{static_cast<double>(left), static_cast<double>(top)};
   const double enlarged = static_cast<double>(size) / icon->size;
   Canvas canvas(dc, area, scale);
   for (const IconShape& shape : icon->shapes) {

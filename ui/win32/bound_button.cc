@@ -91,13 +91,13 @@ void BoundButton::draw(HDC dc, const RECT& area, const DrawnState& state) {
 
 // One move at a time: its handler may read a file.
 void BoundButton::onMove(bool any_button_down) {
-  if (!chameleon_) return;
-  chameleon_->pointer_inside = true;
-  if (move_waits_) return;
+  if (chameleon_) chameleon_->pointer_inside = true;
+  if (move_waits_ || (!chameleon_ && !button_.onMouseMove)) return;
   move_waits_ = true;
   post([this, any_button_down] {
     move_waits_ = false;
-    chameleon_->mouseMove(any_button_down);
+    if (chameleon_) return chameleon_->mouseMove(any_button_down);
+    button_.onMouseMove();
   });
 }
 

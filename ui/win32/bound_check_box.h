@@ -16,6 +16,7 @@ class BoundCheckBox : public DrawnControl {
   std::string drawnOf() const override;
   void onUp(MouseButton button, bool inside) override;
   bool onKey(WPARAM key, bool down) override;
+  LRESULT asked(UINT message) const override { return message == BM_GETCHECK ? box_.value() : 0; }
 
  private:
   void postPress();

@@ -6,6 +6,7 @@
 
 #include "forms/chameleon_button.h"
 #include "platform/win32/wide.h"
+#include "ui/win32/accessible_name.h"
 #include "ui/win32/bound_button.h"
 #include "ui/win32/bound_check_box.h"
 #include "ui/win32/bound_combo_box.h"
@@ -70,9 +71,16 @@ BoundControl::BoundControl(FormWindow& form, Control& control)
 BoundControl::~BoundControl() {
   form_.actions().discard(this);
   if (window_ == nullptr) return;
+  annotation_.clear();
   RemovePropW(window_, kBoundProperty);
+  RemovePropW(window_, nameProperty().c_str());
   RemoveWindowSubclass(window_, &edgeProcedure, kEdgeSubclass);
   DestroyWindow(window_);
+}
+
+std::wstring BoundControl::nameProperty() const {
+  const ControlDesign& design = control_.design;
+  return wide(std::string(form_.form().name()) + "." + fullName(design.name, design.index));
 }
 
 BoundControl* BoundControl::of(HWND window) {
@@ -85,6 +93,7 @@ void BoundControl::create(const wchar_t* window_class, DWORD style, DWORD extend
                             GetModuleHandleW(nullptr), this);
   if (window_ == nullptr) return;
   SetPropW(window_, kBoundProperty, this);
+  SetPropW(window_, nameProperty().c_str(), window_);
   if ((style & WS_BORDER) == 0) return;
   SetWindowSubclass(window_, &edgeProcedure, kEdgeSubclass, reinterpret_cast<DWORD_PTR>(this));
 }
@@ -113,7 +122,7 @@ void BoundControl::post(std::function<void()> action) {
 }
 
 void BoundControl::syncPlace() {
-  const RECT box = form_.pixels(control_);
+  const RECT box = form_.pixels(control_, look_);
   if (EqualRect(&box, &placed_)) return;
   placed_ = box;
   place(box);
@@ -142,9 +151,20 @@ void BoundControl::sync() {
   if (enabled != control_.enabled) form_.enable(*this, control_.enabled);
   const bool shown = (GetWindowLongW(window_, GWL_STYLE) & WS_VISIBLE) != 0;
   if (shown != control_.visible) {
-    if (control_.visible) SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
     form_.show(*this, control_.visible);
   }
+  syncAccessible();
+}
+
+std::string BoundControl::tip() const {
+  if (!control_.tool_tip.empty() || !showsSignAlone(form_.form(), control_)) {
+    return control_.tool_tip;
+  }
+  return accessibleName(form_.form(), control_, form_.language());
+}
+
+void BoundControl::syncAccessible() {
+  annotation_.show(window_, accessibleName(form_.form(), control_, form_.language()));
 }
 
 void BoundControl::onAccessKey() { SetFocus(window_); }

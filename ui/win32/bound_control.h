@@ -1,6 +1,8 @@
 // A native window that shows one control of a form. It compares what it shows
 // with the control and updates the difference; what a person does to it, it
-// queues. A control has no window before it is first in sight.
+// queues. A control has no window before it is first in sight. The window is
+// found from outside by a property with the control's name, "Form1.cmd_test", as
+// a form's is by its own.
 #pragma once
 
 #include <windows.h>
@@ -10,6 +12,7 @@
 #include <string>
 
 #include "forms/control.h"
+#include "ui/win32/accessible_annotation.h"
 #include "ui/win32/form_looks.h"
 
 namespace tavr::win32 {
@@ -26,6 +29,8 @@ class BoundControl {
 
   HWND window() const { return window_; }
   Control& control() const { return control_; }
+  /// What a tip shows; "" for none.
+  std::string tip() const;
 
   /// Brings everything shown up to the control's state.
   void sync();
@@ -51,6 +56,8 @@ class BoundControl {
   /// Puts the window where the box is.
   virtual void place(const RECT& box);
   virtual void fontChanged();
+  /// Tells those who read the screen to a person what has changed.
+  virtual void syncAccessible();
 
   FormWindow& form_;
   Control& control_;
@@ -62,10 +69,12 @@ class BoundControl {
  private:
   static LRESULT CALLBACK edgeProcedure(HWND, UINT, WPARAM, LPARAM, UINT_PTR, DWORD_PTR);
   void syncPlace();
+  std::wstring nameProperty() const;
 
   RECT placed_{};
   ControlFont font_;
   HFONT native_font_ = nullptr;
+  AccessibleAnnotation annotation_;
 };
 
 /// The window of a control of any kind; null for a kind without one.

@@ -29,8 +29,13 @@ bool sameRow(const ListRow& a, const ListRow& b) {
 
 }  // namespace
 
+// The boxes are drawn with the rows; as the list's own they are read out.
 BoundListView::BoundListView(FormWindow& form, ListView& list)
-    : ReportList(form, list), list_(list) {}
+    : ReportList(form, list), list_(list) {
+  if (!hasBoxes()) return;
+  ListView_SetExtendedListViewStyleEx(window_, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
+  ListView_SetCallbackMask(window_, LVIS_STATEIMAGEMASK);
+}
 
 std::size_t BoundListView::rowCount() const { return shown_.size(); }
 
@@ -68,8 +73,11 @@ void BoundListView::syncOwn() {
   for (std::size_t i = 0; i < rows; ++i) {
     const ListRow& row = list_.item(static_cast<double>(i + 1));
     if (i < before && sameRow(row, shown_[i])) continue;
+    const bool ticked = i < before && row.checked != shown_[i].checked;
     shown_[i] = row;
     redraw(i, i);
+    if (!ticked) continue;
+    NotifyWinEvent(EVENT_OBJECT_STATECHANGE, window_, OBJID_CLIENT, static_cast<LONG>(i + 1));
   }
   ReportList::syncOwn();
 }

@@ -1,5 +1,6 @@
 #include "ui/win32/bound_option.h"
 
+#include "ui/win32/control_places.h"
 #include "ui/win32/form_window.h"
 
 namespace tavr::win32 {
@@ -22,10 +23,18 @@ void BoundOption::onUp(MouseButton button, bool inside) {
   if (button == MouseButton::kLeft && inside) postPress();
 }
 
+// The arrows turn the next one on, as in any group of options.
+void BoundOption::moveOn(bool back) {
+  Control* const next = nextInGroup(form_.form(), box_, back);
+  if (!next) return;
+  form_.moveFocus(back, true);
+  post([next] { next->press(); });
+}
+
 bool BoundOption::onKey(WPARAM key, bool down) {
   const bool back = key == VK_UP || key == VK_LEFT;
   if (back || key == VK_DOWN || key == VK_RIGHT) {
-    if (down) form_.moveFocus(back);
+    if (down) moveOn(back);
     return true;
   }
   if (key != VK_SPACE) return false;

@@ -16,9 +16,13 @@ class BoundOption : public DrawnControl {
   std::string drawnOf() const override;
   void onUp(MouseButton button, bool inside) override;
   bool onKey(WPARAM key, bool down) override;
+  LRESULT asked(UINT message) const override {
+    return message == BM_GETCHECK ? box_.value() ? BST_CHECKED : BST_UNCHECKED : 0;
+  }
 
  private:
   void postPress();
+  void moveOn(bool back);
 
   OptionButton& box_;
 };

@@ -39,6 +39,9 @@ void BoundPicture::draw(HDC dc, const RECT& area, const DrawnState& state) {
                          : state.hovered ? palette.accent
                                          : palette.faint_text;
   drawIcon(dc, area, look_.icon, color, state.scale);
+  if (!state.focused) return;
+  SetDCBrushColor(dc, color);
+  FrameRect(dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
 
 void BoundPicture::onMove(bool /*any_button_down*/) {
@@ -48,6 +51,12 @@ void BoundPicture::onMove(bool /*any_button_down*/) {
     move_waits_ = false;
     picture_.onMouseMove();
   });
+}
+
+bool BoundPicture::onKey(WPARAM key, bool down) {
+  if (!picture_.onClick || (key != VK_RETURN && key != VK_SPACE)) return false;
+  if (down) post([&picture = picture_] { picture.press(); });
+  return true;
 }
 
 void BoundPicture::onUp(MouseButton button, bool inside) {

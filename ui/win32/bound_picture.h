@@ -19,6 +19,7 @@ class BoundPicture : public DrawnControl {
   bool showsHand() const override { return static_cast<bool>(picture_.onClick); }
   void onMove(bool any_button_down) override;
   void onUp(MouseButton button, bool inside) override;
+  bool onKey(WPARAM key, bool down) override;
   void syncOwn() override;
 
  private:

@@ -14,6 +14,7 @@ class BoundProgressBar : public DrawnControl {
   void draw(HDC dc, const RECT& area, const DrawnState& state) override;
   std::string drawnOf() const override;
   bool takesMouse() const override { return false; }
+  LRESULT asked(UINT message) const override;
 
  private:
   ProgressBar& bar_;

@@ -12,8 +12,6 @@ namespace tavr::win32 {
 
 namespace {
 
-using Gdiplus::REAL;
-
 struct Places {
   RECT picture{};
   RECT caption{};
@@ -98,10 +96,9 @@ constexpr Gdiplus::ColorMatrix kGrey = {{{0.299F, 0.299F, 0.299F, 0, 0},
                                          {0, 0, 0, 1, 0},
                                          {0, 0, 0, 0, 1}}};
 
-void drawFile(Canvas& canvas, const RECT& place, const ButtonContent& content) {
-  startGdiPlus();
-  Gdiplus::Bitmap picture(wide(content.picture).c_str());
-  if (picture.GetLastStatus() != Gdiplus::Ok) return;
+// The picture in its own size, without what is in the mask's colour. It is scaled
+// only then: between two pixels the mask's colour would be mixed in.
+std::unique_ptr<Gdiplus::Bitmap> cutOut(Gdiplus::Bitmap& picture, const ButtonContent& content) {
   Gdiplus::ImageAttributes attributes;
   if (content.mask) {
     const COLORREF mask = *content.mask;
@@ -109,27 +106,36 @@ void drawFile(Canvas& canvas, const RECT& place, const ButtonContent& content) {
     attributes.SetColorKey(key, key);
   }
   if (content.grey) attributes.SetColorMatrix(&kGrey);
-  const auto width = static_cast<REAL>(picture.GetWidth());
-  const auto height = static_cast<REAL>(picture.GetHeight());
-  const REAL fit = std::min(static_cast<REAL>(place.right - place.left) / width,
-                            static_cast<REAL>(place.bottom - place.top) / height);
+  const auto width = static_cast<INT>(picture.GetWidth());
+  const auto height = static_cast<INT>(picture.GetHeight());
+  auto cut = std::make_unique<Gdiplus::Bitmap>(width, height, PixelFormat32bppPARGB);
+  Gdiplus::Graphics graphics(cut.get());
+  graphics.DrawImage(&picture, Gdiplus::Rect(0, 0, width, height), 0, 0, width, height,
+                     Gdiplus::UnitPixel, &attributes);
+  return cut;
+}
+
+void drawFile(Canvas& canvas, const RECT& place, const ButtonContent& content) {
+  startGdiPlus();
+  Gdiplus::Bitmap picture(wide(content.picture).c_str());
+  if (picture.GetLastStatus() != Gdiplus::Ok) return;
+  const std::unique_ptr<Gdiplus::Bitmap> cut = cutOut(picture, content);
+  const double width = picture.GetWidth();
+  const double height = picture.GetHeight();
+  const double fit =
+      std::min((place.right - place.left) / width, (place.bottom - place.top) / height);
   const RECT drawn = centredBox(place, static_cast<int>(std::lround(width * fit)),
                                 static_cast<int>(std::lround(height * fit)));
-  // Between pixels the mask's colour would be mixed in.
   Gdiplus::Graphics graphics(canvas.dc());
-  graphics.SetInterpolationMode(content.mask ? Gdiplus::InterpolationModeNearestNeighbor
-                                             : Gdiplus::InterpolationModeDefault);
+  graphics.SetInterpolationMode(fit == 1 ? Gdiplus::InterpolationModeNearestNeighbor
+                                         : Gdiplus::InterpolationModeHighQualityBicubic);
   graphics.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
-  graphics.DrawImage(
-      &picture,
-      Gdiplus::Rect(drawn.left, drawn.top, drawn.right - drawn.left, drawn.bottom - drawn.top), 0,
-      0, static_cast<INT>(width), static_cast<INT>(height), Gdiplus::UnitPixel, &attributes);
+  graphics.DrawImage(cut.get(), Gdiplus::Rect(drawn.left, drawn.top, drawn.right - drawn.left,
+                                              drawn.bottom - drawn.top));
 }
 
 void drawPicture(Canvas& canvas, const RECT& place, const ButtonContent& content) {
-  const int saved = SaveDC(canvas.dc());
-  const RECT& area = canvas.area();
-  IntersectClipRect(canvas.dc(), area.left, area.top, area.right, area.bottom);
+  const ClippedTo area(canvas.dc(), canvas.area());
   if (!hasIcon(content.picture)) {
     drawFile(canvas, place, content);
   } else if (content.grey) {
@@ -137,7 +143,6 @@ void drawPicture(Canvas& canvas, const RECT& place, const ButtonContent& content
   } else {
     drawIcon(canvas.dc(), place, content.picture, content.caption.color, canvas.scale());
   }
-  RestoreDC(canvas.dc(), saved);
 }
 
 void drawEffect(Canvas& canvas, const RECT& place, const Control& button,
@@ -149,8 +154,7 @@ void drawEffect(Canvas& canvas, const RECT& place, const Control& button,
   const int shift = content.effect == kRaised ? -canvas.px(1) : canvas.px(1);
   CaptionLook copy = content.caption;
   const COLORREF text = content.caption.color;
-  copy.color = content.effect == kShadow ? mix(text, readableOn(text), 0.55)
-                                         : mix(text, readableOn(text), 0.8);
+  copy.color = mix(text, readableOn(text), content.effect == kShadow ? 0.7 : 0.85);
   RECT moved = place;
   OffsetRect(&moved, content.effect == kSunken ? 0 : shift, shift);
   IntersectRect(&moved, &moved, &canvas.area());

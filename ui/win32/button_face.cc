@@ -73,7 +73,12 @@ void touch(ButtonFace& face, ButtonRole role, const DrawnState& state, const Pal
 }
 
 void check(ButtonFace& face, ButtonRole role, const Palette& palette) {
-  if (role == ButtonRole::kPrimary || role == ButtonRole::kStrip) return;
+  if (role == ButtonRole::kPrimary || role == ButtonRole::kStrip) {
+    const bool primary = role == ButtonRole::kPrimary;
+    face.ground =
+        mix(face.ground.value_or(palette.strip), primary ? kInk : palette.strip_text, 0.2);
+    return;
+  }
   face.ground = palette.selection;
   face.text = palette.accent;
   if (role == ButtonRole::kNavigation) {
@@ -105,6 +110,11 @@ void highContrast(ButtonFace& face, ButtonRole role, const DrawnState& state,
   if (held) {
     face.ground = palette.accent;
     face.text = palette.accent_text;
+  }
+  // What looks held at rest is turned round.
+  if (role == ButtonRole::kPrimary && (state.pressed || state.checked)) {
+    face.ground = palette.text;
+    face.text = palette.window;
   }
   if (state.hovered || held) {
     face.edge = role == ButtonRole::kStrip ? palette.strip_text : palette.text;

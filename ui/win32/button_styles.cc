@@ -9,10 +9,16 @@ namespace {
 
 constexpr double kPill = 100;
 
+// Off white, or the light sides of an edge would not be seen.
+COLORREF bevelGround(const StyleInk& ink) {
+  return ink.flat ? ink.ground : mix(ink.ground, ink.edge, 0.25);
+}
+
 void thickBevel(Canvas& canvas, const StyleInk& ink) {
   const RECT& area = canvas.area();
-  canvas.fill(area, ink.ground);
+  canvas.fill(area, bevelGround(ink));
   canvas.bevel(area, 1, ink.edge, ink.edge);
+  if (ink.flat) return canvas.bevel(inset(area, 1 + canvas.px(2)), 1, ink.edge, ink.edge);
   const RECT inner = inset(area, 1);
   const COLORREF upper = ink.pressed ? ink.dark : ink.light;
   const COLORREF lower = ink.pressed ? ink.light : ink.dark;
@@ -21,12 +27,16 @@ void thickBevel(Canvas& canvas, const StyleInk& ink) {
 
 void thinBevel(Canvas& canvas, const StyleInk& ink) {
   const RECT& area = canvas.area();
-  canvas.fill(area, ink.ground);
+  canvas.fill(area, bevelGround(ink));
   canvas.bevel(area, canvas.px(1), ink.pressed ? ink.dark : ink.light,
                ink.pressed ? ink.light : ink.dark);
 }
 
 void gradient(Canvas& canvas, const StyleInk& ink) {
+  if (ink.flat) {
+    canvas.fillRound(canvas.area(), 4, ink.ground);
+    return canvas.strokeRound(canvas.area(), 4, 1, ink.edge);
+  }
   const COLORREF lower = mix(ink.ground, ink.dark, 0.45);
   canvas.fillDown(canvas.area(), 4, ink.pressed ? lower : ink.light,
                   ink.pressed ? ink.ground : lower);
@@ -35,6 +45,10 @@ void gradient(Canvas& canvas, const StyleInk& ink) {
 
 void gloss(Canvas& canvas, const StyleInk& ink) {
   const RECT& area = canvas.area();
+  if (ink.flat) {
+    canvas.fillRound(area, 7, ink.ground);
+    return canvas.strokeRound(area, 7, 2, ink.edge);
+  }
   const COLORREF ground = mix(ink.ground, ink.accent, ink.pressed ? 0.3 : 0.16);
   canvas.fillRound(area, 7, ground);
   RECT upper = inset(area, canvas.px(2));
@@ -65,7 +79,8 @@ void ruled(Canvas& canvas, const StyleInk& ink) {
   if (ink.hovered || ink.pressed) canvas.fill(area, ink.ground);
   RECT rule = area;
   rule.top = rule.bottom - canvas.px(ink.pressed ? 3 : 2);
-  canvas.fill(rule, ink.hovered || ink.pressed ? ink.accent : mix(ink.edge, ink.accent, 0.5));
+  const bool strong = ink.hovered || ink.pressed || ink.flat;
+  canvas.fill(rule, strong ? ink.accent : mix(ink.edge, ink.accent, 0.5));
 }
 
 void doubleFrame(Canvas& canvas, const StyleInk& ink) {
@@ -90,7 +105,7 @@ void card(Canvas& canvas, const StyleInk& ink) {
 
 void sideBar(Canvas& canvas, const StyleInk& ink) {
   const RECT& area = canvas.area();
-  canvas.fill(area, ink.pressed ? ink.ground : mix(ink.ground, ink.accent, 0.08));
+  canvas.fill(area, ink.pressed || ink.flat ? ink.ground : mix(ink.ground, ink.accent, 0.08));
   RECT bar = area;
   bar.right = bar.left + canvas.px(ink.pressed ? 6 : 4);
   canvas.fill(bar, ink.accent);

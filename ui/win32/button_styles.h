@@ -15,6 +15,7 @@ struct StyleInk {
   COLORREF accent = 0;
   bool hovered = false;
   bool pressed = false;  ///< or held down by its value
+  bool flat = false;     ///< high contrast: no colour that is mixed from others
 };
 
 /// What of a style matters to the caption and the focus.

@@ -23,6 +23,31 @@ RECT around(const Outline& outline, double by) {
           up(outline.most().y + by)};
 }
 
+// A box with round corners: the squares around the corners, which need a look at
+// every pixel, and the straight parts between them.
+struct Parts {
+  RECT corners[4];
+  RECT across;  ///< all of the rows between the corners
+  RECT upper;   ///< between the upper corners
+  RECT lower;
+};
+
+Parts partsOf(const RECT& box, int wanted) {
+  const LONG width = std::min<LONG>(wanted, (box.right - box.left + 1) / 2);
+  const LONG height = std::min<LONG>(wanted, (box.bottom - box.top + 1) / 2);
+  const LONG left = box.left + width;
+  const LONG right = std::max(left, box.right - width);
+  const LONG top = box.top + height;
+  const LONG bottom = std::max(top, box.bottom - height);
+  return {{{box.left, box.top, left, top},
+           {right, box.top, box.right, top},
+           {box.left, bottom, left, box.bottom},
+           {right, bottom, box.right, box.bottom}},
+          {box.left, top, box.right, bottom},
+          {left, box.top, right, top},
+          {left, bottom, right, box.bottom}};
+}
+
 // A picture with opacity that is laid over the device context.
 class Layer {
  public:
@@ -94,10 +119,16 @@ void Canvas::fill(const RECT& box, COLORREF color) {
 }
 
 void Canvas::fillRound(const RECT& box, double radius, COLORREF color, double opacity) {
-  blend(
-      box,
-      [&](Spot at) { return opacity * roundBoxAt(at, leastOf(box), mostOf(box), radius * scale_); },
-      [color](Spot) { return color; });
+  const auto coverage = [&](Spot at) {
+    return opacity * roundBoxAt(at, leastOf(box), mostOf(box), radius * scale_);
+  };
+  const auto paint = [color](Spot) { return color; };
+  if (opacity < 1) return blend(box, coverage, paint);
+  const Parts parts = partsOf(box, static_cast<int>(std::ceil(radius * scale_)));
+  for (const RECT& corner : parts.corners) blend(corner, coverage, paint);
+  fill(parts.across, color);
+  fill(parts.upper, color);
+  fill(parts.lower, color);
 }
 
 void Canvas::fillDown(const RECT& box, double radius, COLORREF upper, COLORREF lower) {
@@ -110,18 +141,30 @@ void Canvas::fillDown(const RECT& box, double radius, COLORREF upper, COLORREF l
 void Canvas::strokeRound(const RECT& box, double radius, double width, COLORREF color,
                          double opacity) {
   // Whole pixels, so that straight sides are sharp.
-  const double line = std::max(1.0, std::round(width * scale_));
+  const int line = std::max(1, static_cast<int>(std::lround(width * scale_)));
   const Spot least = leastOf(box);
   const Spot most = mostOf(box);
   const double outer = radius * scale_;
-  blend(
-      box,
-      [=](Spot at) {
-        const double inner = roundBoxAt(at, {least.x + line, least.y + line},
-                                        {most.x - line, most.y - line}, outer - line);
-        return opacity * std::max(0.0, roundBoxAt(at, least, most, outer) - inner);
-      },
-      [color](Spot) { return color; });
+  const auto coverage = [=](Spot at) {
+    const double inner = roundBoxAt(at, {least.x + line, least.y + line},
+                                    {most.x - line, most.y - line}, outer - line);
+    return opacity * std::max(0.0, roundBoxAt(at, least, most, outer) - inner);
+  };
+  const Parts parts = partsOf(box, std::max(static_cast<int>(std::ceil(outer)), line));
+  RECT upper = parts.upper;
+  RECT lower = parts.lower;
+  RECT left = parts.across;
+  RECT right = parts.across;
+  upper.bottom = std::min<LONG>(upper.bottom, upper.top + line);
+  lower.top = std::max<LONG>(lower.top, lower.bottom - line);
+  left.right = std::min<LONG>(left.right, left.left + line);
+  right.left = std::max<LONG>(left.right, right.right - line);
+  for (const RECT& part : {upper, lower, left, right}) {
+    blend(part, coverage, [color](Spot) { return color; });
+  }
+  for (const RECT& corner : parts.corners) {
+    blend(corner, coverage, [color](Spot) { return color; });
+  }
 }
 
 void Canvas::bevel(const RECT& box, int width, COLORREF upper, COLORREF lower) {

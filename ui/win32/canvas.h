@@ -45,6 +45,21 @@ class Canvas {
   double scale_;
 };
 
+/// Keeps all drawing within an area as long as it lives.
+class ClippedTo {
+ public:
+  ClippedTo(HDC dc, const RECT& area) : dc_(dc), saved_(SaveDC(dc)) {
+    IntersectClipRect(dc, area.left, area.top, area.right, area.bottom);
+  }
+  ~ClippedTo() { RestoreDC(dc_, saved_); }
+  ClippedTo(const ClippedTo&) = delete;
+  ClippedTo& operator=(const ClippedTo&) = delete;
+
+ private:
+  HDC dc_;
+  int saved_;
+};
+
 RECT inset(const RECT& box, int by);
 /// The box on the other side of `area`, when it reads from right to left.
 RECT mirrored(const RECT& box, const RECT& area, bool right_to_left);

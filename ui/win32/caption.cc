@@ -4,7 +4,7 @@
 
 #include "basic/number.h"
 #include "platform/win32/wide.h"
-#include "ui/win32/color.h"
+#include "ui/win32/canvas.h"
 
 namespace tavr::win32 {
 
@@ -17,19 +17,18 @@ constexpr const wchar_t* kFamilies[] = {L"Segoe UI",  L"Selawik",        L"Open 
                                         L"Noto Sans", L"Tahoma",         L"DejaVu Sans",
                                         L"Arial",     L"Liberation Sans"};
 
+int CALLBACK noteFamily(const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found) {
+  *reinterpret_cast<bool*>(found) = true;
+  return 0;
+}
+
 bool isInstalled(const std::wstring& family) {
   bool found = false;
   const HDC dc = CreateCompatibleDC(nullptr);
   LOGFONTW asked{};
   asked.lfCharSet = DEFAULT_CHARSET;
   family.copy(asked.lfFaceName, LF_FACESIZE - 1);
-  EnumFontFamiliesExW(
-      dc, &asked,
-      [](const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM answer) {
-        *reinterpret_cast<bool*>(answer) = true;
-        return 0;
-      },
-      reinterpret_cast<LPARAM>(&found), 0);
+  EnumFontFamiliesExW(dc, &asked, &noteFamily, reinterpret_cast<LPARAM>(&found), 0);
   DeleteDC(dc);
   return found;
 }
@@ -96,13 +95,11 @@ void drawCaption(HDC dc, const RECT& box, const Control& control, const CaptionL
   std::wstring text = withMark(wide(shownCaption(control, state)), state.access_key);
   if (text.empty() || IsRectEmpty(&box)) return;
   const SelectedFont font(dc, control.font, state.scale, look.bold, look.larger);
-  const int saved = SaveDC(dc);
-  IntersectClipRect(dc, box.left, box.top, box.right, box.bottom);
+  const ClippedTo within(dc, box);
   SetBkMode(dc, TRANSPARENT);
   SetTextColor(dc, look.color);
   RECT place = box;
   DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &place, drawFormat(look, state));
-  RestoreDC(dc, saved);
 }
 
 SIZE textSize(HDC dc, std::string_view text, const ControlFont& font, double scale, bool bold,

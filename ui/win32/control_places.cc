@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "forms/controls.h"
+#include "ui/win32/form_looks.h"
 
 namespace tavr::win32 {
 
@@ -14,6 +15,7 @@ constexpr int kBesideLabel = 40;  // px between a box and the label that names i
 
 // Behind every designed number: the toolbar, then an open list.
 constexpr int kToolbarOrder = 1000;
+constexpr int kSignOrder = 900;
 constexpr int kListRowOrder = 2000;
 
 bool within(const Box& box, int width, int height) {
@@ -29,8 +31,15 @@ bool isSeparator(const Control& control) {
   return control.design.kind == ControlKind::kToolbarButton && control.caption.empty();
 }
 
+// A sign on the strip that acts and has no number in the design.
+bool isStripSign(const Form& form, const Control& control) {
+  return control.design.kind == ControlKind::kPicture &&
+         lookOf(form, control).role == ButtonRole::kStrip;
+}
+
 // -1: never.
-int orderOf(const Control& control) {
+int orderOf(const Form& form, const Control& control) {
+  if (isStripSign(form, control)) return kSignOrder;
   if (control.design.kind == ControlKind::kToolbarButton) {
     return isSeparator(control) ? -1 : kToolbarOrder + control.design.index;
   }
@@ -52,6 +61,12 @@ Control* next(const std::vector<Control*>& order, const Control* current, bool b
 
 bool sameGroup(const Control& a, const Control& b) {
   return isGrouped(a) && a.design.name == b.design.name && a.design.parent == b.design.parent;
+}
+
+// Tab reaches each of them: the boxes of their rows stand between.
+bool areOptions(const Control& a, const Control& b) {
+  return a.design.kind == ControlKind::kOption && b.design.kind == ControlKind::kOption &&
+         a.design.parent == b.design.parent;
 }
 
 }  // namespace
@@ -77,12 +92,17 @@ bool isGrouped(const Control& control) {
   return control.design.kind == ControlKind::kToolbarButton || isListRow(control);
 }
 
+bool takesKeyboard(const Form& form, const Control& control) {
+  return orderOf(form, control) >= 0;
+}
+
 std::vector<Control*> focusOrder(const Form& form) {
   std::vector<Control*> order;
   for (Control* const control : form.controls()) {
-    if (orderOf(*control) >= 0 && inSight(form, *control)) order.push_back(control);
+    if (takesKeyboard(form, *control) && inSight(form, *control)) order.push_back(control);
   }
-  std::ranges::stable_sort(order, {}, [](const Control* control) { return orderOf(*control); });
+  std::ranges::stable_sort(
+      order, {}, [&form](const Control* control) { return orderOf(form, *control); });
   return order;
 }
 
@@ -102,7 +122,7 @@ Control* nextFocus(const Form& form, const Control* current, bool back) {
 Control* nextInGroup(const Form& form, const Control& current, bool back) {
   std::vector<Control*> group;
   for (Control* const control : focusOrder(form)) {
-    if (sameGroup(current, *control)) group.push_back(control);
+    if (sameGroup(current, *control) || areOptions(current, *control)) group.push_back(control);
   }
   return next(group, &current, back);
 }

@@ -25,10 +25,13 @@ std::vector<Control*> focusOrder(const Form& form);
 /// and Tab reaches only one of them.
 bool isGrouped(const Control& control);
 
+/// Whether the keyboard reaches it at all, when it is enabled and in sight.
+bool takesKeyboard(const Form& form, const Control& control);
+
 /// The next enabled control from `current` (null: from the start), around the
 /// end. Null when there is none.
 Control* nextFocus(const Form& form, const Control* current, bool back);
-/// The same among the members of a group.
+/// The same among the members of a group, or among the options of a panel.
 Control* nextInGroup(const Form& form, const Control& current, bool back);
 
 /// What names a control to a person: itself when it has a caption, else the

@@ -12,6 +12,7 @@ namespace {
 // Any other number is the calm scheme.
 constexpr int kAccentScheme = 2;
 constexpr int kOwnScheme = 3;  // its own four, black included
+constexpr double kSeen = 3;    // contrast of a line, as WCAG 2 asks for
 
 struct Colors {
   COLORREF ground = 0;
@@ -19,21 +20,35 @@ struct Colors {
   COLORREF text = 0;
   COLORREF hover_text = 0;
   COLORREF edge = 0;
+  COLORREF accent = 0;  ///< of the lines that a style is known by
 };
 
 Colors schemeColors(int scheme, const StyleTraits& traits, const Palette& palette) {
   if (traits.filled) {
-    const COLORREF ground =
-        scheme == kAccentScheme ? mix(palette.accent, kInk, 0.3) : palette.accent;
-    return {ground, mix(ground, kWhite, 0.14), palette.accent_text, palette.accent_text,
-            mix(ground, kInk, 0.4)};
+    const COLORREF ground = scheme == kAccentScheme && !palette.high_contrast
+                                ? mix(palette.accent, kInk, 0.3)
+                                : palette.accent;
+    return {.ground = ground,
+            .hover = mix(ground, kWhite, 0.14),
+            .text = palette.accent_text,
+            .hover_text = palette.accent_text,
+            .edge = mix(ground, kInk, 0.4),
+            .accent = palette.accent};
   }
-  if (scheme == kAccentScheme) {
-    return {palette.selection, mix(palette.selection, palette.accent, 0.14), palette.accent,
-            palette.accent, mix(palette.selection, palette.accent, 0.5)};
+  if (scheme == kAccentScheme && !palette.high_contrast) {
+    return {.ground = palette.selection,
+            .hover = mix(palette.selection, palette.accent, 0.14),
+            .text = palette.accent,
+            .hover_text = palette.accent,
+            .edge = mix(palette.selection, palette.accent, 0.5),
+            .accent = palette.accent};
   }
-  return {palette.panel, palette.hover, palette.text, palette.text,
-          mix(palette.border, palette.text, 0.12)};
+  return {.ground = palette.panel,
+          .hover = palette.hover,
+          .text = palette.text,
+          .hover_text = palette.text,
+          .edge = mix(palette.border, palette.text, 0.12),
+          .accent = palette.accent};
 }
 
 // A number of 0 is a colour that was never set, but in the own scheme.
@@ -46,14 +61,36 @@ Colors colorsOf(const ChameleonButton& button, const StyleTraits& traits, const 
     return all || own != 0;
   };
   if (take(button.color, colors.ground)) {
-    colors.hover = colors.ground;
     colors.text = colors.hover_text = readableOn(colors.ground);
+    colors.hover = mix(colors.ground, colors.text, 0.1);
     colors.edge = mix(colors.ground, colors.text, 0.3);
+    colors.accent = mix(colors.ground, colors.text, 0.45);
   }
   if (take(button.hover_color, colors.hover)) colors.hover_text = readableOn(colors.hover);
   if (take(button.text_color, colors.text)) colors.hover_text = colors.text;
   take(button.hover_text_color, colors.hover_text);
   return colors;
+}
+
+// Few colours: what is held down is told by the pair that the system has for
+// what is selected, and the mouse by a line.
+StyleInk systemInk(const StyleTraits& traits, const DrawnState& state, const Palette& palette) {
+  StyleInk ink;
+  ink.flat = true;
+  ink.hovered = state.enabled && state.hovered;
+  ink.pressed = state.enabled && (state.pressed || state.checked);
+  const bool selected = state.enabled && (ink.pressed || traits.filled);
+  ink.ground = selected ? palette.accent : palette.panel;
+  ink.text = selected ? palette.accent_text : palette.text;
+  ink.accent = selected ? palette.accent_text : palette.accent;
+  ink.edge = palette.text;
+  if (traits.filled && ink.pressed) {
+    ink.ground = palette.text;
+    ink.text = ink.accent = palette.window;
+  }
+  if (!state.enabled) ink.edge = ink.accent = ink.text = disabledText(palette, palette.panel);
+  ink.light = ink.dark = ink.edge;
+  return ink;
 }
 
 StyleInk inkOf(const ChameleonButton& button, const Colors& colors, const DrawnState& state,
@@ -64,17 +101,13 @@ StyleInk inkOf(const ChameleonButton& button, const Colors& colors, const DrawnS
   ink.ground = ink.hovered ? colors.hover : colors.ground;
   ink.text = ink.hovered ? colors.hover_text : colors.text;
   ink.edge = colors.edge;
-  ink.accent = palette.accent;
+  ink.accent = colors.accent;
   if (ink.pressed) {
     const bool light = contrast(ink.ground, kWhite) < contrast(ink.ground, kInk);
     ink.ground = mix(ink.ground, light ? palette.accent : kInk, state.pressed ? 0.2 : 0.12);
   }
-  if (palette.high_contrast && (ink.pressed || ink.hovered)) {
-    ink.ground = palette.accent;
-    ink.text = palette.accent_text;
-  }
   if (!state.enabled) {
-    ink.ground = palette.high_contrast ? palette.panel : mix(greyOf(colors.ground), kWhite, 0.75);
+    ink.ground = mix(greyOf(colors.ground), kWhite, 0.75);
     ink.text = disabledText(palette, ink.ground);
     ink.edge = ink.accent = mix(ink.text, ink.ground, 0.4);
   }
@@ -103,16 +136,19 @@ ButtonContent contentOf(const ChameleonButton& button, const DrawnState& state) 
 void drawStyled(Canvas& canvas, const ChameleonButton& button, const DrawnState& state,
                 const Palette& palette) {
   const StyleTraits traits = traitsOf(button.button_type);
-  const Colors colors = colorsOf(button, traits, palette);
-  const StyleInk ink = inkOf(button, colors, state, palette);
+  const StyleInk ink = palette.high_contrast
+                           ? systemInk(traits, state, palette)
+                           : inkOf(button, colorsOf(button, traits, palette), state, palette);
   drawStyle(canvas, button.button_type, ink);
+  if (ink.flat && ink.hovered) canvas.strokeRound(canvas.area(), traits.radius, 2, palette.text);
   ButtonContent content = contentOf(button, state);
   content.caption = {ink.text, Side::kMiddle, false};
   content.padding = traits.padding;
   content.pushed = traits.pushes && ink.pressed ? canvas.px(1) : 0;
   drawContent(canvas, button, content, state);
   if (state.focused && button.show_focus_rect) {
-    drawFocus(canvas, canvas.area(), traits.radius, traits.filled ? ink.text : ink.accent);
+    const bool seen = contrast(ink.accent, ink.ground) >= kSeen;
+    drawFocus(canvas, canvas.area(), traits.radius, seen ? ink.accent : ink.text);
   }
 }
 

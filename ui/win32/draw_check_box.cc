@@ -34,6 +34,10 @@ SignColors signColors(bool on, const DrawnState& state, const Palette& palette) 
   if (on) colors.ground = colors.edge = palette.accent;
   if (palette.high_contrast) {
     if (on) colors.edge = palette.text;
+    if (state.pressed) {
+      colors.ground = palette.text;
+      colors.mark = palette.window;
+    }
     return colors;
   }
   if (state.pressed) {
@@ -114,6 +118,7 @@ void drawSignFocus(Canvas& canvas, const RECT& caption, const Control& control,
 
 void drawSignCaption(Canvas& canvas, const RECT& sign, const Control& control,
                      const DrawnState& state, const Palette& palette) {
+  const ClippedTo within(canvas.dc(), canvas.area());
   const RECT box = captionBox(canvas, sign, state);
   const COLORREF color = state.enabled ? palette.text : disabledText(palette, palette.window);
   drawCaption(canvas.dc(), box, control, {color, Side::kStart}, state);

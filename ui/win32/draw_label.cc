@@ -58,6 +58,7 @@ void drawFrame(HDC dc, const RECT& area, const Control& frame, const DrawnState&
                const Palette& palette) {
   const std::string_view caption = shownCaption(frame, state);
   if (IsRectEmpty(&area) || caption.empty()) return;
+  const ClippedTo within(dc, area);
   Canvas canvas(dc, area, state.scale);
   const SIZE text = textSize(dc, caption, frame.font, state.scale, true);
   RECT line = area;
@@ -75,6 +76,7 @@ void drawFrame(HDC dc, const RECT& area, const Control& frame, const DrawnState&
 void drawTitleStrip(HDC dc, const RECT& area, std::string_view title, const DrawnState& state,
                     const Palette& palette) {
   if (IsRectEmpty(&area)) return;
+  const ClippedTo within(dc, area);
   Canvas canvas(dc, area, state.scale);
   canvas.fill(area, palette.strip);
   const int size = canvas.px(kStripSign);

@@ -33,9 +33,11 @@ COLORREF doneColor(const Bar& bar) {
 }
 
 void drawGroove(const Bar& bar, double radius) {
-  const COLORREF ground = mix(bar.palette.raised, bar.palette.border, 0.5);
-  bar.canvas.fillRound(bar.groove, radius, ground);
-  if (bar.palette.high_contrast) bar.canvas.strokeRound(bar.groove, radius, 1, bar.palette.text);
+  const bool plain = bar.palette.high_contrast;
+  bar.canvas.fillRound(
+      bar.groove, radius,
+      plain ? bar.palette.panel : mix(bar.palette.raised, bar.palette.border, 0.5));
+  if (plain) bar.canvas.strokeRound(bar.groove, radius, 1, bar.palette.text);
 }
 
 void drawSmooth(const Bar& bar) {
@@ -55,11 +57,12 @@ void drawBlocks(const Bar& bar) {
   const RECT inner = inset(bar.groove, gap);
   const int width = bar.canvas.px(7);
   const int room = static_cast<int>(inner.right - inner.left);
-  const int all = (room + gap) / (width + gap);
+  const int all = std::max(1, (room + gap) / (width + gap));
   const int shown = static_cast<int>(std::ceil(all * bar.part));
+  // What is left over is shared out, so that the last block ends with the bar.
+  const auto begin = [&](int i) { return static_cast<int>(inner.left) + i * (room + gap) / all; };
   for (int i = 0; i < shown; ++i) {
-    const int left = static_cast<int>(inner.left) + i * (width + gap);
-    const RECT block{left, inner.top, left + width, inner.bottom};
+    const RECT block{begin(i), inner.top, begin(i + 1) - gap, inner.bottom};
     bar.canvas.fillRound(mirrored(block, inner, bar.state.right_to_left), 1, doneColor(bar));
   }
 }

@@ -2,6 +2,7 @@
 
 #include <windowsx.h>
 
+#include "platform/win32/wide.h"
 #include "ui/win32/control_places.h"
 #include "ui/win32/form_window.h"
 
@@ -45,6 +46,21 @@ DrawnState DrawnControl::state() const {
   return state;
 }
 
+AccessibleFacts DrawnControl::accessibleFacts() const {
+  AccessibleFacts facts = tavr::win32::accessibleFacts(form_.form(), control_, form_.language());
+  if (held_) facts.state |= STATE_SYSTEM_PRESSED;
+  if (hovered_ && control_.enabled) facts.state |= STATE_SYSTEM_HOTTRACKED;
+  return facts;
+}
+
+std::string DrawnControl::accessibleShortcut() const {
+  return tavr::win32::accessibleShortcut(form_.form(), control_);
+}
+
+void DrawnControl::accessiblePress() {
+  post([&control = control_] { control.press(); });
+}
+
 void DrawnControl::paint(HDC dc) {
   RECT area;
   GetClientRect(window_, &area);
@@ -62,6 +78,10 @@ void DrawnControl::paint(HDC dc) {
 }
 
 void DrawnControl::syncOwn() {
+  if (control_.caption != caption_) {
+    caption_ = control_.caption;
+    SetWindowTextW(window_, wide(caption_).c_str());
+  }
   std::string now = drawnOf();
   if (now == drawn_) return;
   drawn_ = std::move(now);
@@ -150,6 +170,11 @@ LRESULT DrawnControl::handle(UINT message, WPARAM wparam, LPARAM lparam) {
       return 0;
     case WM_ERASEBKGND:
       return 1;
+    case WM_GETOBJECT: {
+      LRESULT answer = 0;
+      if (accessible_.answer(window_, wparam, lparam, answer)) return answer;
+      break;
+    }
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
     case WM_ENABLE:
@@ -165,7 +190,8 @@ LRESULT DrawnControl::handle(UINT message, WPARAM wparam, LPARAM lparam) {
       if (onKey(wparam, message == WM_KEYDOWN)) return 0;
       break;
     default: {
-      LRESULT answer = 0;
+      LRESULT answer = asked(message);
+      if (answer != 0) return answer;
       if (form_.route(message, wparam, lparam, answer)) return answer;
     }
   }

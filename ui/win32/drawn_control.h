@@ -2,12 +2,14 @@
 // focus of it, and painting without flicker.
 #pragma once
 
+#include "ui/win32/accessible_link.h"
+#include "ui/win32/accessible_object.h"
 #include "ui/win32/bound_control.h"
 #include "ui/win32/drawing.h"
 
 namespace tavr::win32 {
 
-class DrawnControl : public BoundControl {
+class DrawnControl : public BoundControl, private AccessibleSource {
  public:
   static constexpr wchar_t kClass[] = L"TavrControl";
 
@@ -31,9 +33,12 @@ class DrawnControl : public BoundControl {
   virtual void onDown(MouseButton /*button*/) {}
   virtual void onUp(MouseButton /*button*/, bool /*inside*/) {}
   virtual bool onKey(WPARAM /*key*/, bool /*down*/) { return false; }
+  /// The questions that a native control of its kind answers; 0 for any other.
+  virtual LRESULT asked(UINT /*message*/) const { return 0; }
 
   void syncOwn() override;
   void fontChanged() override { invalidate(); }
+  void syncAccessible() override { accessible_.tell(window_); }
 
   bool hovered_ = false;
   bool held_ = false;  ///< a button went down on it and the pointer is over it
@@ -45,8 +50,13 @@ class DrawnControl : public BoundControl {
   bool handleMouse(UINT message, WPARAM wparam, LPARAM lparam);
   void mouseMoved(WPARAM keys, LPARAM point);
   DrawnState state() const;
+  AccessibleFacts accessibleFacts() const override;
+  std::string accessibleShortcut() const override;
+  void accessiblePress() override;
 
+  AccessibleLink accessible_{*this};
   std::string drawn_;
+  std::string caption_;  ///< the window's text
 };
 
 }  // namespace tavr::win32

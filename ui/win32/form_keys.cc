@@ -77,12 +77,14 @@ void FormWindow::showFocus() {
 
 std::string FormWindow::captionOf(const Control& control) const {
   const auto cue = std::ranges::find(cues_, &control, &AccessKey::shown);
-  return cue == cues_.end() ? control.caption : captionWithKey(*cue);
+  return std::string(Trim(cue == cues_.end() ? control.caption : captionWithKey(*cue)));
 }
 
 int FormWindow::accessKeyPosition(const Control& control) const {
   const auto cue = std::ranges::find(cues_, &control, &AccessKey::shown);
-  return cue == cues_.end() ? -1 : cue->position;
+  if (cue == cues_.end() || cue->position < 0) return -1;
+  const std::size_t blanks = control.caption.size() - LTrim(control.caption).size();
+  return cue->position - static_cast<int>(blanks);
 }
 
 void FormWindow::showCues(bool on) {
@@ -102,6 +104,23 @@ bool FormWindow::serveAccessKey(WPARAM character) {
   return false;
 }
 
+// Buttons and links make something of Enter themselves, and so does a list that
+// has dropped down.
+bool FormWindow::pressDefault() {
+  const Control* const at = focused();
+  if (!at || at->design.kind == ControlKind::kButton || at->design.kind == ControlKind::kLabel ||
+      at->design.kind == ControlKind::kToolbarButton) {
+    return false;
+  }
+  const BoundControl* const bound = boundOf(*at);
+  const bool combo = at->design.kind == ControlKind::kComboBox;
+  if (combo && SendMessageW(bound->window(), CB_GETDROPPEDSTATE, 0, 0) != FALSE) return false;
+  Button* const button = defaultButton(form_);
+  if (!button) return false;
+  actions_.post(this, [button] { button->press(); });
+  return true;
+}
+
 bool FormWindow::serveKey(const MSG& message) {
   if (!IsWindowEnabled(window_)) return false;
   switch (message.message) {
@@ -114,7 +133,7 @@ bool FormWindow::serveKey(const MSG& message) {
         if (events_.close) actions_.post(this, events_.close);
         return true;
       }
-      return false;
+      return message.wParam == VK_RETURN && pressDefault();
     case WM_SYSKEYDOWN:
       if (message.wParam == VK_MENU) showCues(true);
       return false;

@@ -21,6 +21,12 @@ constexpr ControlLook label(std::string_view form, std::string_view control, Lab
   return {form, control, kPlain, look, "", ""};
 }
 
+// A part of a sentence, close behind the one before it.
+constexpr ControlLook behind(std::string_view form, std::string_view control,
+                             std::string_view before) {
+  return {form, control, kPlain, Label::kPlain, "", "", before};
+}
+
 constexpr ControlLook kControls[] = {
     button("Form1", "chameleonButton12", kStrip, ""),
     button("Form1", "chameleonButton13", kStrip, "about"),
@@ -75,6 +81,10 @@ constexpr ControlLook kControls[] = {
     button("Form3", "cmd_plugin", kNavigation, "", "Frame3"),
     button("Form3", "chameleonButton8", kNavigation, "", "Frame2"),
     button("Form3", "chameleonButton19", kPrimary, ""),
+    behind("Form3", "Label2(12)", "Label2(15)"),
+    behind("Form3", "Combo2", "Label2(12)"),
+    behind("Form3", "Combo1", "Label2(2)"),
+    behind("Form3", "Label2(3)", "Combo1"),
     label("Form3", "Label2(13)", Label::kHeading),
     label("Form3", "Label2(17)", Label::kHeading),
     label("Form3", "Label2(19)", Label::kHeading),
@@ -97,8 +107,8 @@ constexpr ControlLook kControls[] = {
 };
 
 constexpr FormLook kForms[] = {
-    {"Form1", 40, 0, 202, 40, 580, "Label88(6)"}, {"Form2", 40, 0, 224, 0, 0, "Label222(1)"},
-    {"Form3", 40, 0, 218, 0, 0, "Label222(1)"},   {"Form4", 36, 36, 0, 0, 0, ""},
+    {"Form1", 40, 0, 224, 40, 580, "Label88(6)"}, {"Form2", 40, 0, 224, 0, 0, "Label222(1)"},
+    {"Form3", 40, 0, 224, 0, 0, "Label222(1)"},   {"Form4", 36, 36, 0, 0, 0, ""},
     {"Form52", 40, 0, 0, 0, 0, "Label1(16)"},     {"frmmsg", 36, 36, 0, 0, 0, ""},
     {"frmabout", 40, 0, 0, 0, 0, "Label222(1)"},
 };
@@ -118,6 +128,13 @@ const ControlLook& lookOf(const Form& form, const Control& control) {
   const auto found = std::ranges::find_if(
       kControls, [&](const ControlLook& look) { return isMeant(look, form, control); });
   return found == std::end(kControls) ? kOther : *found;
+}
+
+bool isFollowed(const Form& form, const Control& control) {
+  return std::ranges::any_of(kControls, [&](const ControlLook& look) {
+    return !look.follows.empty() && look.form == form.name() &&
+           look.follows == fullName(control.design.name, control.design.index);
+  });
 }
 
 const FormLook& lookOf(const Form& form) {

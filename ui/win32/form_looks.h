@@ -18,12 +18,16 @@ struct ControlLook {
   ButtonRole role = ButtonRole::kPlain;
   LabelLook label = LabelLook::kPlain;
   std::string_view icon;
-  std::string_view panel;  ///< the frame that a navigation button opens
+  std::string_view panel;         ///< the frame that a navigation button opens
+  std::string_view follows = {};  ///< the control that it stands close behind, on the same line
 };
 
 /// The look of a control; a plain one when nothing is said of it. A picture of
 /// which nothing is said has no window.
 const ControlLook& lookOf(const Form& form, const Control& control);
+
+/// Whether another control stands close behind this one.
+bool isFollowed(const Form& form, const Control& control);
 
 struct FormLook {
   std::string_view form;

@@ -1,8 +1,13 @@
 #include "ui/win32/form_window.h"
 
+#include <oleacc.h>
+
+#include <algorithm>
 #include <utility>
 
 #include "platform/win32/wide.h"
+#include "ui/win32/accessible_name.h"
+#include "ui/win32/accessible_order.h"
 #include "ui/win32/artwork.h"
 #include "ui/win32/control_places.h"
 #include "ui/win32/screen_scale.h"
@@ -13,10 +18,13 @@ namespace tavr::win32 {
 namespace {
 
 constexpr wchar_t kClass[] = L"TavrForm";
+constexpr wchar_t kShadowProperty[] = L"TrickShadow";
 constexpr int kShadowSize = 10;
 constexpr COLORREF kShadowColor = 0x808080;
 constexpr COLORREF kMaskColor = 0xFF00FF;
 constexpr int kCornerRadius = 8;
+constexpr int kUsualDpi = 96;
+constexpr int kSentenceGap = 8;  // px at 96 dpi
 constexpr DWORD kStyle = WS_POPUP | WS_CLIPCHILDREN | WS_MINIMIZEBOX | WS_SYSMENU;
 
 }  // namespace
@@ -52,6 +60,7 @@ FormWindow::FormWindow(Form& form, HWND owner, ActionQueue& actions, Dialogs& di
   const DWORD extended = WS_EX_CONTROLPARENT | (events_.has_task_button ? WS_EX_APPWINDOW : 0U);
   window_ = CreateWindowExW(extended, kClass, wide(form.caption).c_str(), kStyle, 0, 0, 0, 0, owner,
                             nullptr, GetModuleHandleW(nullptr), this);
+  SetPropW(window_, wide(form.name()).c_str(), window_);
   shape_ = std::make_unique<TransForm>(window_, dialogs);
   shape_->MaskColor = kMaskColor;
   takeDpi(dpiOf(window_));
@@ -63,6 +72,7 @@ FormWindow::FormWindow(Form& form, HWND owner, ActionQueue& actions, Dialogs& di
 
 FormWindow::~FormWindow() {
   actions_.discard(this);
+  annotation_.clear();
   if (shadow_) detachShadow(window_);
   bound_.clear();
   tips_.reset();
@@ -142,7 +152,14 @@ void FormWindow::setShadow(bool on) {
     detachShadow(window_);
     return;
   }
+  const HWND active = GetActiveWindow();
   attachShadow(window_);
+  // Its showing activates it, and a window manager may want to do so again. The
+  // keyboard stays with the form.
+  const HWND shadow = static_cast<HWND>(GetPropW(window_, kShadowProperty));
+  SetWindowLongPtrW(shadow, GWL_EXSTYLE,
+                    GetWindowLongPtrW(shadow, GWL_EXSTYLE) | WS_EX_NOACTIVATE);
+  if (active != nullptr) SetActiveWindow(active);
   setShadowSize(window_, kShadowSize);
   setShadowColor(window_, kShadowColor);
 }
@@ -165,7 +182,13 @@ void FormWindow::syncFrame(bool may_show) {
     SetWindowTextW(window_, wide(now.empty() ? form_.caption : now).c_str());
     InvalidateRect(window_, nullptr, FALSE);
   }
-  if (form_.enabled != (IsWindowEnabled(window_) != FALSE)) EnableWindow(window_, form_.enabled);
+  const long role = events_.has_task_button ? 0 : ROLE_SYSTEM_DIALOG;
+  annotation_.show(window_, accessibleFormName(form_), role);
+  // A message box disables the window by itself: only what the form says anew is done.
+  if (form_.enabled != enabled_) {
+    enabled_ = form_.enabled;
+    EnableWindow(window_, enabled_ ? TRUE : FALSE);
+  }
   if (form_.topmost != topmost_) {
     topmost_ = form_.topmost;
     SetWindowPos(window_, topmost_ ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
@@ -183,6 +206,13 @@ void FormWindow::syncControls() {
     if (!bound && inSight(form_, *control)) bound = makeWindowOf(*control);
     if (bound) bound->sync();
   }
+  if (ordered_ == bound_.size()) return;
+  ordered_ = bound_.size();
+  std::vector<BoundControl*> made;
+  for (Control* const control : form_.controls()) {
+    if (BoundControl* const bound = boundOf(*control)) made.push_back(bound);
+  }
+  orderForReading(form_, std::move(made));
 }
 
 BoundControl* FormWindow::boundOf(const Control& control) const {
@@ -210,8 +240,28 @@ HWND FormWindow::windowOfHolder(const Control& control) {
   return bound ? bound->window() : window_;
 }
 
-RECT FormWindow::pixels(const Control& control) const {
+// The design leaves room for the longest language; what stands behind a shorter
+// text moves up to it.
+int FormWindow::startOf(const Control& control, const ControlLook& look) const {
+  const Control* const before = look.follows.empty() ? nullptr : form_.find(look.follows);
+  if (!before) return control.box.left;
+  const int start = startOf(*before, lookOf(form_, *before));
+  return std::min(control.box.left, start + widthOf(*before) + kSentenceGap);
+}
+
+int FormWindow::widthOf(const Control& control) const {
+  const bool label = control.design.kind == ControlKind::kLabel;
+  if (!label || !isFollowed(form_, control)) return control.box.width;
+  const HDC dc = GetDC(window_);
+  const int width = MulDiv(captionSize(dc, control, scale()).cx, kUsualDpi, dpi_) + 1;
+  ReleaseDC(window_, dc);
+  return std::min(width, control.box.width);
+}
+
+RECT FormWindow::pixels(const Control& control, const ControlLook& look) const {
   Box box = control.box;
+  box.left = startOf(control, look);
+  box.width = widthOf(control);
   const Control* const holder = holderOf(form_, control);
   if (!holder) box.top += lookOf(form_).strip_above;
   if (right_to_left_) {

@@ -13,7 +13,9 @@
 #include <vector>
 
 #include "forms/form.h"
+#include "platform/win32/com.h"
 #include "ui/win32/access_keys.h"
+#include "ui/win32/accessible_annotation.h"
 #include "ui/win32/action_queue.h"
 #include "ui/win32/bound_control.h"
 #include "ui/win32/drawing.h"
@@ -52,11 +54,14 @@ class FormWindow {
   /// Serves a key ahead of the focused window; true when it was for the form.
   bool serveKey(const MSG& message);
   void setShadow(bool on);
+  /// The one in force, "de": signs are read out in it.
+  void setLanguage(std::string_view language) { language_ = language; }
+  const std::string& language() const { return language_; }
 
   // What the windows of the controls ask.
   double scale() const { return dpi_ / 96.0; }
   int px(int length) const { return MulDiv(length, dpi_, 96); }
-  RECT pixels(const Control& control) const;
+  RECT pixels(const Control& control, const ControlLook& look) const;
   const Palette& palette() const { return palette_; }
   HBRUSH panelBrush() const { return panel_brush_; }
   Fonts& fonts() { return *fonts_; }
@@ -70,9 +75,10 @@ class FormWindow {
   void showFocus();
   void hideFocus() { shows_focus_ = false; }
   void moveFocus(bool back, bool in_group = false);
-  /// The caption as it is shown at the moment.
+  /// The caption as it is drawn at the moment. Blanks around it once held it off
+  /// its box, which the drawings do by themselves.
   std::string captionOf(const Control& control) const;
-  /// Where its access key stands in the caption; -1 while none is shown.
+  /// Where its access key stands in `captionOf`; -1 while none is shown.
   int accessKeyPosition(const Control& control) const;
 
   // What a control's window loses, the focus may lose with it.
@@ -105,12 +111,16 @@ class FormWindow {
   void moveFocusFrom(Control& control);
 
   bool serveAccessKey(WPARAM character);
+  bool pressDefault();
   void showCues(bool on);
 
   void paint(HDC dc) const;
   void fillArea(HDC dc, int left, int top, int right, int bottom, COLORREF color) const;
   std::string title() const;
+  int startOf(const Control& control, const ControlLook& look) const;
+  int widthOf(const Control& control) const;
 
+  const ComApartment com_;  // screen readers ask from outside
   Form& form_;
   ActionQueue& actions_;
   FormEvents events_;
@@ -128,12 +138,16 @@ class FormWindow {
   HBITMAP shape_picture_ = nullptr;
   std::unique_ptr<ToolTips> tips_;
   std::unordered_map<const Control*, std::unique_ptr<BoundControl>> bound_;
+  std::size_t ordered_ = 0;      ///< how many of them stand in the order of reading
   std::vector<AccessKey> cues_;  ///< empty while ALT is not held
   Control* last_focus_ = nullptr;
   int placed_left_ = 0;
   int placed_top_ = 0;
   std::string shown_title_;
+  std::string language_;
+  AccessibleAnnotation annotation_;
   bool topmost_ = false;
+  bool enabled_ = true;
 };
 
 }  // namespace tavr::win32

@@ -7,6 +7,11 @@ namespace {
 constexpr std::uint64_t kSyncInterval = 30;  // ms; a person sees no difference
 constexpr std::uint32_t kIdleWait = 250;     // ms; a message ends the sleep in it
 
+bool quitAsked() {
+  MSG message;
+  return PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_NOREMOVE) != FALSE;
+}
+
 }  // namespace
 
 MainLoop::MainLoop(Program& program, Win32Events& events, Win32Desktop& desktop)
@@ -47,7 +52,7 @@ void MainLoop::sync() {
 
 void MainLoop::run() {
   windows_.mainLoaded();
-  for (;;) {
+  while (!quitAsked()) {
     sync();
     // The windows of closed forms are gone, and no handler of theirs is at work.
     program_.desk.freeUnloaded();

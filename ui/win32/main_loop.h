@@ -22,8 +22,9 @@ class MainLoop {
   MainLoop(const MainLoop&) = delete;
   MainLoop& operator=(const MainLoop&) = delete;
 
-  /// Leaves by the end of the process alone.
-  [[noreturn]] void run();
+  /// Leaves when the process is asked to quit; the program itself ends by
+  /// ProcessEnd.
+  void run();
 
  private:
   bool filter(const MSG& message);

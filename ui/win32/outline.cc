@@ -10,7 +10,8 @@ namespace {
 // An edge at this distance, inside counted below zero, covers so much of a pixel.
 double covered(double distance) { return std::clamp(0.5 - distance, 0.0, 1.0); }
 
-double distanceTo(Spot spot, Spot from, Spot to) {
+// Squared, as a root for every piece would take most of the time.
+double squaredDistance(Spot spot, Spot from, Spot to) {
   const double dx = to.x - from.x;
   const double dy = to.y - from.y;
   const double length = dx * dx + dy * dy;
@@ -18,7 +19,15 @@ double distanceTo(Spot spot, Spot from, Spot to) {
       length == 0
           ? 0
           : std::clamp(((spot.x - from.x) * dx + (spot.y - from.y) * dy) / length, 0.0, 1.0);
-  return std::hypot(spot.x - from.x - along * dx, spot.y - from.y - along * dy);
+  const double x = spot.x - from.x - along * dx;
+  const double y = spot.y - from.y - along * dy;
+  return x * x + y * y;
+}
+
+// Whether a piece may come as near as that; most of them are far away.
+bool mayReach(Spot spot, Spot from, Spot to, double near) {
+  return std::min(from.x, to.x) - near <= spot.x && spot.x <= std::max(from.x, to.x) + near &&
+         std::min(from.y, to.y) - near <= spot.y && spot.y <= std::max(from.y, to.y) + near;
 }
 
 // +1 or -1 for a piece that passes to the right of the spot, by its direction.
@@ -74,24 +83,29 @@ void Outline::close() {
 
 double Outline::filledAt(Spot spot) const {
   int winding = 0;
-  double nearest = 1e9;
+  constexpr double kNear = 1;  // beyond it a pixel is covered whole or not at all
+  double nearest = kNear * kNear;
   const auto take = [&](const Piece& piece) {
     winding += windingOf(spot, piece.from, piece.to);
-    nearest = std::min(nearest, distanceTo(spot, piece.from, piece.to));
+    if (!mayReach(spot, piece.from, piece.to, kNear)) return;
+    nearest = std::min(nearest, squaredDistance(spot, piece.from, piece.to));
   };
   for (const Piece& piece : drawn_) take(piece);
   for (const Piece& piece : closing_) take(piece);
   if (open_) take({here_, begin_});
-  return covered(winding != 0 ? -nearest : nearest);
+  return covered(winding != 0 ? -std::sqrt(nearest) : std::sqrt(nearest));
 }
 
 double Outline::strokedAt(Spot spot, double width) const {
-  double nearest = 1e9;
+  const double half = std::max(width, 1.0) / 2;
+  const double near = half + 1;
+  double nearest = near * near;
   for (const Piece& piece : drawn_) {
-    nearest = std::min(nearest, distanceTo(spot, piece.from, piece.to));
+    if (!mayReach(spot, piece.from, piece.to, near)) continue;
+    nearest = std::min(nearest, squaredDistance(spot, piece.from, piece.to));
   }
   // A line thinner than a pixel is paler, not narrower.
-  return covered(nearest - std::max(width, 1.0) / 2) * std::min(width, 1.0);
+  return covered(std::sqrt(nearest) - half) * std::min(width, 1.0);
 }
 
 double roundBoxAt(Spot spot, Spot least, Spot most, double radius) {

@@ -41,8 +41,8 @@ Palette Palette::of(COLORREF strip) {
   palette.text = kInk;
   palette.faint_text = RGB(98, 107, 124);
   palette.border = RGB(214, 219, 228);
-  palette.hover = mix(kWhite, palette.accent, 0.07);
-  palette.selection = mix(kWhite, palette.accent, 0.13);
+  palette.hover = mix(kWhite, palette.accent, 0.09);
+  palette.selection = mix(kWhite, palette.accent, 0.15);
   palette.danger = RGB(179, 38, 30);
   return palette;
 }

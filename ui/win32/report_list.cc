@@ -14,6 +14,8 @@ constexpr int kRowHeight = 26;
 constexpr int kHeaderHeight = 28;
 constexpr int kPadding = 12;  // px before and behind a text
 constexpr int kSign = 16;     // px of an icon or a check box
+constexpr UINT kUnticked = 1;  // the numbers of a list's own check boxes
+constexpr UINT kTicked = 2;
 constexpr UINT_PTR kHeaderSubclass = 1;
 constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
 
@@ -167,9 +169,13 @@ void ReportList::clicked(const NMHDR& notice) {
 void ReportList::answerText(NMHDR& notice) const {
   LVITEMW& item = reinterpret_cast<NMLVDISPINFOW&>(notice).item;
   const auto row = static_cast<std::size_t>(item.iItem);
-  if ((item.mask & LVIF_TEXT) == 0 || item.cchTextMax <= 0 || row >= rowCount()) return;
+  if (row >= rowCount()) return;
   Cell cell;
   describe(row, static_cast<std::size_t>(item.iSubItem), cell);
+  if ((item.mask & LVIF_STATE) != 0 && cell.has_box) {
+    item.state = INDEXTOSTATEIMAGEMASK(cell.checked ? kTicked : kUnticked);
+  }
+  if ((item.mask & LVIF_TEXT) == 0 || item.cchTextMax <= 0) return;
   const std::wstring text = wide(cell.text);
   lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
 }

@@ -50,55 +50,20 @@ void keepLook(HWND shadow, const ShadowLook& look) {
   SetWindowLongW(shadow, kStrengthPlace, look.strength);
 }
 
-BITMAPINFO pictureFormat(int width, int height) {
-  BITMAPINFO format{};
-  format.bmiHeader.biSize = sizeof(format.bmiHeader);
-  format.bmiHeader.biWidth = width;
-  format.bmiHeader.biHeight = height;
-  format.bmiHeader.biPlanes = 1;
-  format.bmiHeader.biBitCount = 32;
-  format.bmiHeader.biCompression = BI_RGB;
-  return format;
-}
-
-// Corners as they are, sides stretched; nothing where the form stands.
-void layOut(HDC dc, const ShadowLook& look, SIZE whole) {
-  const int size = look.size;
-  const std::vector<std::uint32_t> tiles = shadowTiles(look);
-  // Upper row first; the source's rows are named from the lower edge all the
-  // same, so both have to be told the same way: from the top.
-  const BITMAPINFO format = pictureFormat(4 * size, -2 * size);
-  const int right = whole.cx - size;
-  const int bottom = whole.cy - size;
-  const auto tile = [&](int column, int row, RECT to) {
-    StretchDIBits(dc, to.left, to.top, to.right - to.left, to.bottom - to.top, column * size,
-                  row * size, size, size, tiles.data(), &format, DIB_RGB_COLORS, SRCCOPY);
-  };
-  SetStretchBltMode(dc, COLORONCOLOR);
-  tile(0, 0, {0, 0, size, size});
-  tile(1, 0, {size, 0, right, size});
-  tile(2, 0, {right, 0, whole.cx, size});
-  tile(3, 0, {0, size, size, bottom});
-  tile(0, 1, {0, bottom, size, whole.cy});
-  tile(1, 1, {size, bottom, right, whole.cy});
-  tile(2, 1, {right, bottom, whole.cx, whole.cy});
-  tile(3, 1, {right, size, whole.cx, bottom});
-}
-
 void drawShadow(HWND form, HWND shadow) {
   const ShadowLook look = lookOf(shadow);
   RECT place;
   GetWindowRect(form, &place);
   InflateRect(&place, look.size, look.size);
   SIZE whole{place.right - place.left, place.bottom - place.top};
-  const BITMAPINFO format = pictureFormat(whole.cx, whole.cy);
+  const BITMAPINFO format = shadowFormat(whole.cx, whole.cy);
   void* pixels = nullptr;
   const HDC screen = GetDC(nullptr);
   const HDC memory = CreateCompatibleDC(screen);
   const HBITMAP picture = CreateDIBSection(memory, &format, DIB_RGB_COLORS, &pixels, nullptr, 0);
   if (picture != nullptr) {
     const HGDIOBJ before = SelectObject(memory, picture);
-    layOut(memory, look, whole);
+    layShadowOut(memory, look, whole);
     POINT corner{place.left, place.top};
     POINT origin{0, 0};
     BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
@@ -140,8 +105,12 @@ LRESULT CALLBACK formProcedure(HWND form, UINT message, WPARAM wparam, LPARAM lp
     if (message == WM_WINDOWPOSCHANGED) {
       follow(form, shadow, *reinterpret_cast<const WINDOWPOS*>(lparam));
     }
-    // Windows hides what a minimised window owns, not all that calls it so do.
-    if (message == WM_SIZE) ShowWindow(shadow, wparam == SIZE_MINIMIZED ? SW_HIDE : SW_SHOWNA);
+    // Windows hides what a minimised window owns, not all that calls it so do. A
+    // form that is not shown may be laid out, too.
+    if (message == WM_SIZE) {
+      const bool shown = wparam != SIZE_MINIMIZED && IsWindowVisible(form);
+      ShowWindow(shadow, shown ? SW_SHOWNA : SW_HIDE);
+    }
   }
   return DefSubclassProc(form, message, wparam, lparam);
 }

@@ -35,4 +35,39 @@ std::vector<std::uint32_t> shadowTiles(const ShadowLook& look) {
   return pixels;
 }
 
+BITMAPINFO shadowFormat(int width, int height) {
+  BITMAPINFO format{};
+  format.bmiHeader.biSize = sizeof(format.bmiHeader);
+  format.bmiHeader.biWidth = width;
+  format.bmiHeader.biHeight = height;
+  format.bmiHeader.biPlanes = 1;
+  format.bmiHeader.biBitCount = 32;
+  format.bmiHeader.biCompression = BI_RGB;
+  return format;
+}
+
+void layShadowOut(HDC dc, const ShadowLook& look, SIZE whole) {
+  const int size = look.size;
+  const std::vector<std::uint32_t> tiles = shadowTiles(look);
+  // One row of tiles at a time: whether a source that begins with its upper row
+  // counts a place in it from above or from below, systems do not agree.
+  const BITMAPINFO format = shadowFormat(4 * size, -size);
+  const int right = whole.cx - size;
+  const int bottom = whole.cy - size;
+  const auto tile = [&](int column, int row, RECT to) {
+    StretchDIBits(dc, to.left, to.top, to.right - to.left, to.bottom - to.top, column * size, 0,
+                  size, size, tiles.data() + row * 4 * size * size, &format, DIB_RGB_COLORS,
+                  SRCCOPY);
+  };
+  SetStretchBltMode(dc, COLORONCOLOR);
+  tile(0, 0, {0, 0, size, size});
+  tile(1, 0, {size, 0, right, size});
+  tile(2, 0, {right, 0, whole.cx, size});
+  tile(3, 0, {0, size, size, bottom});
+  tile(0, 1, {0, bottom, size, whole.cy});
+  tile(1, 1, {size, bottom, right, whole.cy});
+  tile(2, 1, {right, bottom, whole.cx, whole.cy});
+  tile(3, 1, {right, size, whole.cx, bottom});
+}
+
 }  // namespace tavr::win32

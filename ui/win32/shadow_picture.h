@@ -25,4 +25,11 @@ double shadowStrength(const ShadowLook& look, double way);
 /// lower right, right.
 std::vector<std::uint32_t> shadowTiles(const ShadowLook& look);
 
+/// Lays the tiles out over a picture of 32 bits a pixel: the corners as they are,
+/// the sides stretched. Where the form stands nothing is drawn.
+void layShadowOut(HDC dc, const ShadowLook& look, SIZE whole);
+
+/// 32 bits a pixel; a height below zero: the upper row comes first.
+BITMAPINFO shadowFormat(int width, int height);
+
 }  // namespace tavr::win32

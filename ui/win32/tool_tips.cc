@@ -32,11 +32,9 @@ bool ToolTips::answer(NMHDR& notice) {
   auto& info = reinterpret_cast<NMTTDISPINFOW&>(notice);
   const BoundControl* const bound = BoundControl::of(reinterpret_cast<HWND>(notice.idFrom));
   if (!bound) return true;
-  const Control& control = bound->control();
-  const bool tool = control.design.kind == ControlKind::kToolbarButton;
   // Kept until the next question: the tip holds no longer text by itself.
   static std::wstring text;
-  text = wide(control.tool_tip.empty() && tool ? control.caption : control.tool_tip);
+  text = wide(bound->tip());
   info.lpszText = text.data();
   return true;
 }

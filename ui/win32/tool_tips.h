@@ -1,5 +1,5 @@
-// The tips of a form's controls: a control's own text, and the caption of a
-// tool, which shows only its picture.
+// The tips of a form's controls: a control's own text, and the name of one that
+// shows only a sign.
 #pragma once
 
 #include <windows.h>

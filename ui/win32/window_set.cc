@@ -114,6 +114,7 @@ void WindowSet::syncForm(std::string_view name) {
     window = std::make_unique<FormWindow>(*form, mainWindow(), actions_, program_.machine.dialogs,
                                           eventsOf(name));
   }
+  window->setLanguage(program_.language.lang);
   window->sync(stripOf(*form), rightToLeft(), name != kMain || main_loaded_);
   syncShadow(name, *window);
 }

@@ -21,7 +21,7 @@ void loadControls() {
 
 }  // namespace
 
-int runWindows(Program& program, Win32Machine& machine) {
+bool runWindows(Program& program, Win32Machine& machine) {
   loadControls();
   MainLoop loop(program, machine.events(), machine.desktop());
   try {
@@ -30,9 +30,9 @@ int runWindows(Program& program, Win32Machine& machine) {
   } catch (const ProcessEnd&) {
     // However a handler ends the process, it unwinds to here.
   } catch (const RuntimeError&) {
-    return 1;
+    return false;
   }
-  return 0;
+  return true;
 }
 
 }  // namespace tavr::win32

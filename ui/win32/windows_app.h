@@ -7,7 +7,8 @@
 namespace tavr::win32 {
 
 /// Loads the main form as a person's start does, and serves its windows until
-/// the process is to end. The exit status. Form_Initialize has been called.
-int runWindows(Program& program, Win32Machine& machine);
+/// the process is to end. False: an error that no handler caught ended it.
+/// Form_Initialize has been called.
+bool runWindows(Program& program, Win32Machine& machine);
 
 }  // namespace tavr::win32

@@ -2,11 +2,15 @@
 // Everything that the program draws, on one picture, for a person to look at.
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 #include "platform/win32/wide.h"
 #include "tests/windows/drawing/picture.h"
+#include "tests/windows/drawing/sample_picture.h"
 #include "tests/windows/drawing/stubs.h"
+#include "ui/win32/animation.h"
 #include "ui/win32/artwork.h"
+#include "ui/win32/canvas.h"
 #include "ui/win32/icon_outlines.h"
 
 namespace tavr::win32 {
@@ -14,12 +18,15 @@ namespace tavr::win32 {
 namespace {
 
 constexpr int kWidth = 1180;
-constexpr int kHeight = 1130;
+constexpr int kHeight = 1110;
 
 class Sheet {
  public:
-  Sheet(double scale, const Palette& palette)
-      : palette_(palette), scale_(scale), picture_(px(kWidth), px(kHeight), palette.window) {}
+  Sheet(double scale, const Palette& palette, bool right_to_left)
+      : palette_(palette),
+        scale_(scale),
+        right_to_left_(right_to_left),
+        picture_(px(kWidth), px(kHeight), palette.window) {}
 
   void drawStyles(int top);
   void drawSchemes(int top);
@@ -28,6 +35,8 @@ class Sheet {
   void drawBars(int left, int top);
   void drawLabels(int left, int top);
   void drawIcons(int top);
+  void drawPictures(int left, int top);
+  void drawMotion(int left, int top, const char* file);
   void saveAs(const std::wstring& file) const { picture_.saveAs(file); }
 
  private:
@@ -40,6 +49,7 @@ class Sheet {
     label.caption = text;
     DrawnState state;
     state.scale = scale_;
+    state.right_to_left = right_to_left_;
     Palette faint = palette_;
     faint.text = palette_.faint_text;
     drawLabel(picture_.dc(), box(left, top, 150, 20), label, false, false, state, faint);
@@ -52,11 +62,13 @@ class Sheet {
     state.focused = column == 3;
     state.enabled = column != 4;
     state.checked = column == 5;
+    state.right_to_left = right_to_left_;
     return state;
   }
 
   Palette palette_;
   double scale_;
+  bool right_to_left_;
   StillEvents events_;
   Picture32 picture_;
 };
@@ -121,8 +133,11 @@ void Sheet::drawRoles(int left, int top) {
       DrawnState state = stateOf(column);
       state.icon = shown.icon;
       const bool small = shown.role == ButtonRole::kTool || shown.role == ButtonRole::kStrip;
-      drawButton(picture_.dc(), box(left + 150 * column, top + 42 * row, small ? 40 : 142, 36),
-                 button, shown.role, state, palette_);
+      const RECT place = box(left + 150 * column, top + 42 * row, small ? 40 : 142, 36);
+      if (shown.role == ButtonRole::kStrip) {
+        Canvas(picture_.dc(), place, scale_).fill(place, palette_.strip);
+      }
+      drawButton(picture_.dc(), place, button, shown.role, state, palette_);
     }
     ++row;
   }
@@ -187,6 +202,38 @@ void Sheet::drawIcons(int top) {
   }
 }
 
+// A file's picture: masked, whole, grey, disabled, under the mouse, and at each
+// side of the caption.
+void Sheet::drawPictures(int left, int top) {
+  const std::string normal = "sheet-normal.bmp";
+  const std::string over = "sheet-over.bmp";
+  saveSign(wide(normal), kSignRed);
+  saveSign(wide(over), kSignBlue);
+  for (int place = 0; place < 9; ++place) {
+    ChameleonButton button(events_);
+    button.button_type = 3;
+    button.caption = "Picture";
+    button.picture_normal = normal;
+    button.picture_over = over;
+    button.use_mask_color = place != 1;
+    button.use_greyscale = place == 2;
+    button.picture_position = place < 5 ? 0 : place - 5;
+    DrawnState state = stateOf(place == 3 ? 4 : place == 4 ? 1 : 0);
+    drawChameleonButton(picture_.dc(),
+                        box(left + 104 * (place % 3), top + 46 * (place / 3), 96, 42), button, 0,
+                        ButtonRole::kPlain, state, palette_);
+  }
+}
+
+void Sheet::drawMotion(int left, int top, const char* file) {
+  Animation animation;
+  if (!animation.load(file)) return;
+  for (int place = 0; place < 8; ++place) {
+    animation.draw(picture_.dc(), box(left + 44 * place, top, 36, 36));
+    for (int i = 0; i < 3; ++i) animation.advance();
+  }
+}
+
 }  // namespace
 
 }  // namespace tavr::win32
@@ -194,17 +241,34 @@ void Sheet::drawIcons(int top) {
 int main(int argc, char** argv) {
   using namespace tavr::win32;
   if (argc < 2) {
-    std::fprintf(stderr, "usage: contact_sheet FILE.bmp [SCALE] [system]\n");
+    std::fprintf(stderr, "usage: contact_sheet FILE.bmp [SCALE] [system] [right] [FILE.gif]\n");
     return 2;
   }
-  const double scale = argc > 2 ? std::atof(argv[2]) : 1;
-  Sheet sheet(scale, argc > 3 ? Palette::ofSystem() : Palette::of(kStripColor));
+  bool system = false;
+  bool right_to_left = false;
+  double scale = 1;
+  const char* motion = "search.gif";
+  for (int i = 2; i < argc; ++i) {
+    const std::string word = argv[i];
+    if (word == "system") {
+      system = true;
+    } else if (word == "right") {
+      right_to_left = true;
+    } else if (word.ends_with(".gif")) {
+      motion = argv[i];
+    } else {
+      scale = std::atof(argv[i]);
+    }
+  }
+  Sheet sheet(scale, system ? Palette::ofSystem() : Palette::of(kStripColor), right_to_left);
   sheet.drawStyles(50);
   sheet.drawSchemes(50);
+  sheet.drawPictures(864, 325);
   sheet.drawRoles(12, 470);
   sheet.drawBoxes(12, 775);
   sheet.drawLabels(900, 775);
   sheet.drawBars(12, 880);
+  sheet.drawMotion(460, 890, motion);
   sheet.drawIcons(1000);
   sheet.saveAs(wide(argv[1]));
   return 0;

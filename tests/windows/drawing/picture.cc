@@ -8,8 +8,6 @@ namespace tavr::win32 {
 
 namespace {
 
-constexpr std::uint32_t kColors = 0xFFFFFF;
-
 BITMAPINFOHEADER header(int width, int height) {
   BITMAPINFOHEADER made{};
   made.biSize = sizeof(made);
@@ -52,11 +50,14 @@ COLORREF Picture32::at(int x, int y) const {
   return RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF);
 }
 
-bool Picture32::sameAs(const Picture32& other) const {
-  return width_ == other.width_ &&
-         std::ranges::equal(
-             pixels(), other.pixels(), {}, [](auto p) { return p & kColors; },
-             [](auto p) { return p & kColors; });
+int Picture32::differing(const Picture32& other) const { return differing(other, area()); }
+
+int Picture32::differing(const Picture32& other, const RECT& part) const {
+  int count = 0;
+  for (int y = part.top; y < part.bottom; ++y) {
+    for (int x = part.left; x < part.right; ++x) count += at(x, y) != other.at(x, y);
+  }
+  return count;
 }
 
 int Picture32::differing(const RECT& part, COLORREF from) const {
@@ -65,6 +66,11 @@ int Picture32::differing(const RECT& part, COLORREF from) const {
     for (int x = part.left; x < part.right; ++x) count += at(x, y) != from;
   }
   return count;
+}
+
+int Picture32::count(const RECT& part, COLORREF color) const {
+  const int whole = (part.right - part.left) * (part.bottom - part.top);
+  return whole - differing(part, color);
 }
 
 int Picture32::colored() const {
@@ -89,6 +95,12 @@ void Picture32::saveAs(const std::wstring& file) const {
   number(offset);
   out.write(reinterpret_cast<const char*>(&info), sizeof(info));
   out.write(reinterpret_cast<const char*>(data.data()), static_cast<std::streamsize>(data.size()));
+}
+
+std::unique_ptr<Picture32> drawn(SIZE size, const Draw& draw, COLORREF ground) {
+  auto picture = std::make_unique<Picture32>(size.cx, size.cy, ground);
+  draw(picture->dc(), picture->area());
+  return picture;
 }
 
 int touchedOutside(const Draw& draw, SIZE size) {

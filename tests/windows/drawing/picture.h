@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <span>
 #include <string>
 
@@ -24,17 +25,21 @@ class Picture32 {
   int height() const { return height_; }
   RECT area() const { return {0, 0, width_, height_}; }
   COLORREF at(int x, int y) const;
-  /// Whether both show the same, pixel by pixel.
-  bool sameAs(const Picture32& other) const;
+  /// With the opacity in the upper byte, the upper row first.
+  std::span<const std::uint32_t> pixels() const;
+  /// Pixels that differ from another picture's of the same size.
+  int differing(const Picture32& other) const;
+  /// The same in a part.
+  int differing(const Picture32& other, const RECT& part) const;
   /// Pixels of a part that differ from a colour.
   int differing(const RECT& part, COLORREF from) const;
+  /// Pixels of a part in a colour.
+  int count(const RECT& part, COLORREF color) const;
   /// Pixels that are not a grey.
   int colored() const;
   void saveAs(const std::wstring& file) const;
 
  private:
-  std::span<const std::uint32_t> pixels() const;
-
   int width_;
   int height_;
   HDC dc_;
@@ -46,6 +51,9 @@ class Picture32 {
 inline constexpr COLORREF kStripColor = 10118205;
 
 using Draw = std::function<void(HDC, const RECT&)>;
+
+/// What is drawn over a whole picture of the size.
+std::unique_ptr<Picture32> drawn(SIZE size, const Draw& draw, COLORREF ground = RGB(255, 255, 255));
 
 /// Draws into a part of a larger picture and answers how many pixels beside the
 /// part were touched.

@@ -100,6 +100,7 @@ fs::path Pen::place(const std::string& path) const {
 }
 
 std::string Pen::entryName(const std::string& path) const {
+  if (path.find('/') == std::string::npos) return path;  // the drive itself
   return "C/" + place(path).lexically_relative(drive()).string();
 }
 

@@ -39,8 +39,8 @@ std::string headers() {
 
 TEST(ProgramFile, NeedsNoLibraryBeyondThoseOfWindows) {
   const std::set<std::string> of_windows = {
-      "ADVAPI32.DLL", "COMCTL32.DLL", "COMDLG32.DLL", "DWMAPI.DLL",  "GDI32.DLL",
-      "KERNEL32.DLL", "MSIMG32.DLL",  "MSVCRT.DLL",   "OLE32.DLL",   "OLEAUT32.DLL",
+      "ADVAPI32.DLL", "COMCTL32.DLL", "COMDLG32.DLL", "DWMAPI.DLL",  "GDI32.DLL",  "GDIPLUS.DLL",
+      "KERNEL32.DLL", "MSIMG32.DLL",  "MSVCRT.DLL",   "OLE32.DLL",   "OLEACC.DLL", "OLEAUT32.DLL",
       "SHELL32.DLL",  "SHLWAPI.DLL",  "USER32.DLL",   "UXTHEME.DLL", "WININET.DLL"};
   std::set<std::string> needed;
   for (const std::string& line : linesOf(headers())) {

@@ -20,8 +20,12 @@ namespace {
 
 constexpr std::string_view kDesk = "C:\\pen\\";
 constexpr std::string_view kProgram = "\"C:\\Program Files\\Tavr Wipe\\tavrwipe.exe\"";
-constexpr std::string_view kShellFolders =
+constexpr std::string_view kExplorer =
     "[HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\";
+constexpr std::string_view kWmiLocator =
+    "HKEY_LOCAL_MACHINE\\SOFTWARE\\Classes\\CLSID\\{4590F811-1D3A-11D0-891F-00AA004B2E24}";
+// Where the cache has its index and its files; the name is WinINet's own.
+constexpr std::string_view kContainer = "/Content.IE5";
 
 std::string readFile(const fs::path& path) {
   std::ifstream in(path, std::ios::binary);
@@ -46,6 +50,26 @@ std::string asRegistryFile(const std::string& text) {
 
 std::string escaped(const std::string& text) {
   return replaced(replaced(text, "\\", "\\\\"), "\"", "\\\"");
+}
+
+bool alwaysFails(const std::string& ini, std::string_view operation) {
+  for (const auto& [name, value] : section(ini, "fault")) {
+    if (sameText(name, operation)) return value.starts_with("0,");
+  }
+  return false;
+}
+
+std::string unquoted(const std::string& text) {
+  return replaced(text.substr(1, text.size() - 2), "\\\\", "\\");
+}
+
+// The head of the shell's folders in an export, as section() wants it.
+std::string shellFoldersSection() {
+  return LCase(std::string(kExplorer.substr(1)) + "Shell Folders");
+}
+
+std::string entryOf(const std::string& path) {
+  return replaced(path.substr(0, 1) + path.substr(2), "\\", "/");
 }
 
 std::string order(std::initializer_list<std::string_view> words) {
@@ -82,6 +106,7 @@ std::vector<std::pair<std::string, std::string>> environmentOf(const std::string
 WindowsRun::WindowsRun(Pen& pen, const Scenario& scenario) : pen_(pen), scenario_(scenario) {}
 
 void WindowsRun::plantFiles() {
+  const bool cached = hasEntry(scenario_.before, "urlcache.txt");
   for (const Entry& entry : scenario_.before) {
     fs::path path;
     if (isPlainFile(entry.path)) {
@@ -95,8 +120,33 @@ void WindowsRun::plantFiles() {
     if (entry.kind == EntryKind::file) writeFile(path, entry.contents);
   }
   for (const Entry& entry : scenario_.before) {
-    if (isPlainFile(entry.path)) setMarks(pen_.place(entry.path), entry.marks);
+    // Wine sets no marks of a file that is open, as its index is for WinINet.
+    const bool index = entry.path.ends_with("INetCookies/index.dat") && cached;
+    if (isPlainFile(entry.path) && !index) setMarks(pen_.place(entry.path), entry.marks);
   }
+}
+
+// WinINet and the shell write the value anew at each start, as the other key says.
+std::string WindowsRun::plantingRegistry(const std::string& profile) {
+  const std::string ini = contentsOf(scenario_.before, "machine.ini");
+  std::string registry = contentsOf(scenario_.before, "registry.reg");
+  if (registry.empty()) registry = "Windows Registry Editor Version 5.00\n";
+  const std::string local = profile + "\\AppData\\Local\\Microsoft\\Windows\\";
+  cookies_ = local + "INetCookies";
+  internet_cache_ = local + "INetCache";
+  for (const auto& [name, value] : section(ini, "folders")) {
+    if (sameText(name, "cookies")) cookies_ = value;
+  }
+  for (const auto& [name, value] : section(registry, shellFoldersSection())) {
+    if (sameText(name, "\"Cookies\"")) cookies_ = unquoted(value);
+    if (sameText(name, "\"Cache\"")) internet_cache_ = unquoted(value);
+  }
+  for (const char* key : {"Shell Folders]", "User Shell Folders]"}) {
+    registry += "\n" + std::string(kExplorer) + key + "\n\"Cookies\"=\"" + escaped(cookies_) +
+                "\"\n\"Cache\"=\"" + escaped(internet_cache_) + "\"\n";
+  }
+  if (alwaysFails(ini, "GetObject")) registry += "\n[-" + std::string(kWmiLocator) + "]\n";
+  return registry;
 }
 
 std::string WindowsRun::planting() {
@@ -107,22 +157,12 @@ std::string WindowsRun::planting() {
     text += order({"env", name, value});
     if (name == "USERPROFILE") profile = value;
   }
-  std::string cookies = profile + "\\AppData\\Local\\Microsoft\\Windows\\INetCookies";
-  for (const auto& [name, value] : section(ini, "folders")) {
-    if (sameText(name, "cookies")) cookies = value;
-  }
-  // WinINet's own files stay out of the machine: an index.dat is a trace, too.
-  std::string registry = contentsOf(scenario_.before, "registry.reg");
-  if (registry.empty()) registry = "Windows Registry Editor Version 5.00\n";
-  for (const char* key : {"Shell Folders]", "User Shell Folders]"}) {
-    registry +=
-        "\n" + std::string(kShellFolders) + key + "\n\"Cookies\"=\"" + escaped(cookies) + "\"\n";
-  }
-  writeFile(pen_.desk() / "registry.reg", asRegistryFile(registry));
+  writeFile(pen_.desk() / "registry.reg", asRegistryFile(plantingRegistry(profile)));
 
   for (const std::string& line : linesOf(contentsOf(scenario_.before, "processes.txt"))) {
     text += order({"start", line.substr(line.find(' ') + 1)});
   }
+  if (alwaysFails(ini, "OpenProcess")) text += order({"guard"});
   for (const std::string& line : linesOf(contentsOf(scenario_.before, "urlcache.txt"))) {
     text += "cache\t" + line + "\n";
   }
@@ -158,9 +198,11 @@ std::string WindowsRun::orders() {
     text += order({"pause", name});
     pauses_.push_back(name);
   };
+  text += order({"list", "before"});
   pause("before");
   for (const Run& one : scenario_.runs) run(one.arguments);
   pause("after");
+  text += order({"list", "after"});
   if (scenario_.second_run) {
     if (endsWithTest(scenario_)) run("t-c");
     pause("first");
@@ -198,27 +240,66 @@ void WindowsRun::readAt(const std::string& pause) {
     const std::size_t tab = line.find('\t');
     moved_.emplace_back(line.substr(0, tab), line.substr(tab + 1));
   }
+  const fs::path container = pen_.place(entryOf(internet_cache_) + std::string(kContainer));
+  const bool indexed = fs::exists(container);
+  if (indexed) fs::permissions(container, fs::perms::owner_all);
   Moment& moment = moments_[pause];
-  const auto entryOf = [](const std::string& path) {
-    return replaced("C" + path.substr(2), "\\", "/");
-  };
   moment.tree = pen_.readTree();
   for (const auto& [there, asked] : moved_) {
     const fs::path file = pen_.place(entryOf(there));
     moment.tree.erase(pen_.entryName(entryOf(there)));
     if (fs::exists(file)) moment.tree[entryOf(asked)] = readNode(fs::directory_entry(file));
   }
+  const std::string hidden = pen_.entryName(entryOf(internet_cache_) + std::string(kContainer));
+  std::erase_if(moment.tree, [&hidden](const auto& item) {
+    return item.first == hidden || item.first.starts_with(hidden + "/");
+  });
+  // WinINet reaches its files all the same, and no search finds its index.
+  if (indexed) fs::permissions(container, fs::perms::owner_write | fs::perms::owner_exec);
   moment.registry = RegistryImage::of(read(pause + ".reg"));
   moment.processes = linesOf(read(pause + ".processes"));
   std::sort(moment.processes.begin(), moment.processes.end());
-  moment.url_cache = linesOf(asPlanted(read(pause + ".cache")));
-  std::sort(moment.url_cache.begin(), moment.url_cache.end());
   std::error_code none;
   for (const auto& entry : fs::directory_iterator(pen_.home() / ".local/share/Trash/files", none)) {
     moment.recycled.push_back(entry.path().filename().string());
   }
   std::sort(moment.recycled.begin(), moment.recycled.end());
 }
+
+std::vector<std::string> WindowsRun::cacheAt(const std::string& name) const {
+  return linesOf(asPlanted(readFile(pen_.desk() / (name + ".cache"))));
+}
+
+Scenario WindowsRun::asFound() const {
+  Scenario found = scenario_;
+  const auto put = [&found](const std::string& path, const std::string& contents) {
+    std::erase_if(found.before, [&path](const Entry& entry) { return entry.path == path; });
+    found.before.push_back({EntryKind::file, path, contents, {}});
+  };
+  std::string cache;
+  for (const std::string& line : cacheBefore()) cache += line + "\n";
+  put("urlcache.txt", cache);
+  std::string registry = contentsOf(scenario_.before, "registry.reg");
+  if (registry.empty()) registry = "Windows Registry Editor Version 5.00\n";
+  registry += "\n" + std::string(kExplorer) + "Shell Folders]\n";
+  for (const auto& [name, value] :
+       section(readFile(pen_.desk() / "before.reg"), shellFoldersSection())) {
+    registry += name + "=" + value + "\n";
+  }
+  put("registry.reg", registry);
+  std::string cookies = replaced(cookiesFolder(), "/", "\\");
+  put("machine.ini", contentsOf(scenario_.before, "machine.ini") +
+                         "\n[folders]\ncookies=" + cookies.insert(1, ":") + "\n");
+  const std::string index = cookiesFolder() + "/index.dat";
+  const auto there = at("before").tree.find(index);
+  if (there != at("before").tree.end()) {
+    put(index, there->second.contents);
+    found.before.back().marks = there->second.marks;
+  }
+  return found;
+}
+
+std::string WindowsRun::cookiesFolder() const { return pen_.entryName(entryOf(cookies_)); }
 
 std::string WindowsRun::parentLog() const { return readFile(pen_.desk() / "parent.log"); }
 

@@ -1,0 +1,180 @@
+// What a screen reader is told of every self-drawn control of every form.
+#include <gmock/gmock.h>
+
+#include "forms/form3.h"
+#include "tests/windows/accessible/asked.h"
+#include "tests/windows/accessible/shown_program.h"
+#include "ui/win32/drawn_control.h"
+
+namespace tavr::win32::testing {
+namespace {
+
+bool isDrawn(const BoundControl& bound) {
+  wchar_t name[32] = L"";
+  GetClassNameW(bound.window(), name, 32);
+  return std::wstring_view(name) == DrawnControl::kClass;
+}
+
+std::string nameOf(const BoundControl& bound) {
+  const ControlDesign& design = bound.control().design;
+  return fullName(design.name, design.index);
+}
+
+// A line between two tools, and a label that shows nothing.
+bool isSilent(const Control& control) {
+  const ControlKind kind = control.design.kind;
+  return control.caption.empty() &&
+         (kind == ControlKind::kToolbarButton || kind == ControlKind::kLabel);
+}
+
+class AccessibleForms : public ::testing::TestWithParam<FormPanel> {};
+
+TEST_P(AccessibleForms, EveryControlHasANameARoleAndTheStateOfItsForm) {
+  ShownProgram shown;
+  open(shown, GetParam());
+  int asked = 0;
+  for (const BoundControl* const bound : shown.shown(GetParam().form)) {
+    if (!isDrawn(*bound)) continue;
+    const Control& control = bound->control();
+    const Asked told = ask(bound->window());
+    SCOPED_TRACE(nameOf(*bound));
+    EXPECT_EQ(told.name.empty(), isSilent(control)) << told.name;
+    EXPECT_GT(told.role, 0);
+    EXPECT_NE(told.role, ROLE_SYSTEM_CLIENT);
+    EXPECT_EQ(told.has(STATE_SYSTEM_UNAVAILABLE), !control.enabled);
+    EXPECT_FALSE(told.has(STATE_SYSTEM_INVISIBLE));
+    if (control.design.tab >= 0) {
+      EXPECT_EQ(told.has(STATE_SYSTEM_FOCUSABLE), control.enabled);
+    }
+    if (const auto* const box = dynamic_cast<const CheckBox*>(&control)) {
+      EXPECT_EQ(told.role, ROLE_SYSTEM_CHECKBUTTON);
+      EXPECT_EQ(told.has(STATE_SYSTEM_CHECKED), box->value() == 1);
+      EXPECT_EQ(told.action, box->value() == 0 ? "Check" : "Uncheck");
+    }
+    ++asked;
+  }
+  EXPECT_GT(asked, 0);
+}
+
+TEST_P(AccessibleForms, EveryControlIsWhereItIsSeenAndFoundThere) {
+  ShownProgram shown;
+  open(shown, GetParam());
+  for (const BoundControl* const bound : shown.shown(GetParam().form)) {
+    if (!isDrawn(*bound)) continue;
+    SCOPED_TRACE(nameOf(*bound));
+    const ComPointer<IAccessible> object = accessibleOf(bound->window());
+    ASSERT_TRUE(object);
+    RECT seen{};
+    GetWindowRect(bound->window(), &seen);
+    long left = 0, top = 0, width = 0, height = 0;
+    ASSERT_EQ(object->accLocation(&left, &top, &width, &height, self()), S_OK);
+    EXPECT_THAT((std::array<long, 4>{left, top, left + width, top + height}),
+                ::testing::ElementsAre(seen.left, seen.top, seen.right, seen.bottom));
+    EXPECT_EQ(windowOf(*object.get()), bound->window());
+    VARIANT hit{};
+    EXPECT_EQ(object->accHitTest(left + width / 2, top + height / 2, &hit), S_OK);
+    VariantClear(&hit);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, AccessibleForms, ::testing::ValuesIn(kFormPanels), [](const auto& panel) {
+      return std::string(panel.param.form) +
+             (panel.param.opened_by.empty() ? "" : "_" + std::string(panel.param.opened_by));
+    });
+
+TEST(AccessibleControls, ACheckBoxIsNamedByTheLabelBesideIt) {
+  ShownProgram shown("de");
+  open(shown, {"Form2", "cmd_plugin"});
+  EXPECT_EQ(ask(shown.window("Form2", "Check1(52)")).name, "Cookies");
+  EXPECT_EQ(ask(shown.window("Form2", "Check1(44)")).name, "Sitzungen");
+}
+
+TEST(AccessibleControls, ASignIsReadOutInTheLanguageInForce) {
+  ShownProgram shown("de");
+  EXPECT_EQ(ask(shown.window("Form1", "chameleonButton10")).name, "Minimieren");
+  EXPECT_EQ(ask(shown.window("Form1", "chameleonButton9")).name, "Schließen");
+}
+
+TEST(AccessibleControls, AFigureIsReadOutWithWhatItCounts) {
+  ShownProgram shown("fr");
+  auto& figure = dynamic_cast<Label&>(shown.control("Form1", "Label4"));
+  figure.caption = "1 234";
+  shown.pump();
+  EXPECT_EQ(ask(shown.window("Form1", "Label4")).name,
+            shown.control("Form1", "Label3").caption + " 1 234");
+}
+
+TEST(AccessibleControls, TheRowsOfAScheduleTellThemselvesApart) {
+  ShownProgram shown;
+  open(shown, {"Form3", "chameleonButton8"});
+  auto& days = dynamic_cast<TextBox&>(shown.control("Form3", "Text3"));
+  days.setText("3");
+  shown.pump();
+  const Asked told = ask(shown.window("Form3", "Option3"));
+  EXPECT_EQ(told.role, ROLE_SYSTEM_RADIOBUTTON);
+  EXPECT_THAT(told.name, ::testing::MatchesRegex("Every .* 3 Days.*"));
+}
+
+TEST(AccessibleControls, AnOptionThatIsTurnedOnIsChecked) {
+  ShownProgram shown;
+  open(shown, {"Form3", "chameleonButton8"});
+  shown.control("Form3", "Option2").press();
+  shown.pump();
+  EXPECT_TRUE(ask(shown.window("Form3", "Option2")).has(STATE_SYSTEM_CHECKED));
+  EXPECT_FALSE(ask(shown.window("Form3", "Option1")).has(STATE_SYSTEM_CHECKED));
+}
+
+TEST(AccessibleControls, AProgressBarTellsItsPart) {
+  ShownProgram shown;
+  ProgressBar& bar = shown.program().form.bar1;
+  bar.setMax(200);
+  bar.setValue(50);
+  bar.setVisible(true);
+  shown.pump();
+  const Asked told = ask(shown.window("Form1", "bar1"));
+  EXPECT_EQ(told.role, ROLE_SYSTEM_PROGRESSBAR);
+  EXPECT_EQ(told.value, "25%");
+}
+
+TEST(AccessibleControls, TheEntryOfTheOpenPanelIsSelected) {
+  ShownProgram shown;
+  open(shown, {"Form2", "chameleonButton30"});
+  const Asked open_one = ask(shown.window("Form2", "chameleonButton30"));
+  EXPECT_EQ(open_one.role, ROLE_SYSTEM_PAGETAB);
+  EXPECT_TRUE(open_one.has(STATE_SYSTEM_SELECTED));
+  EXPECT_FALSE(ask(shown.window("Form2", "cmd_plugin")).has(STATE_SYSTEM_SELECTED));
+}
+
+TEST(AccessibleControls, TheLanguageInForceIsTheSelectedRow) {
+  ShownProgram shown;
+  shown.control("Form1", "chameleonButton12").press();
+  shown.pump();
+  shown.control("Form1", "lbllanguage(1)").press();  // Deutsch; the list closes
+  shown.control("Form1", "chameleonButton12").press();
+  shown.pump();
+  const Asked german = ask(shown.window("Form1", "lbllanguage(1)"));
+  EXPECT_EQ(german.role, ROLE_SYSTEM_LISTITEM);
+  EXPECT_EQ(german.name, "Deutsch");
+  EXPECT_TRUE(german.has(STATE_SYSTEM_SELECTED));
+  EXPECT_FALSE(ask(shown.window("Form1", "lbllanguage(0)")).has(STATE_SYSTEM_SELECTED));
+}
+
+TEST(AccessibleControls, AButtonTellsItsAccessKey) {
+  ShownProgram shown;
+  EXPECT_EQ(ask(shown.window("Form1", "cmd_settings")).shortcut, "Alt+E");
+}
+
+TEST(AccessibleControls, TheFocusIsTold) {
+  ShownProgram shown;
+  const HWND button = shown.window("Form1", "cmd_test");
+  const ComPointer<IAccessible> object = accessibleOf(button);
+  ASSERT_TRUE(object);
+  EXPECT_FALSE(ask(button).has(STATE_SYSTEM_FOCUSED));
+  EXPECT_EQ(object->accSelect(SELFLAG_TAKEFOCUS, self()), S_OK);
+  EXPECT_EQ(GetFocus(), button);
+  EXPECT_TRUE(ask(button).has(STATE_SYSTEM_FOCUSED));
+}
+
+}  // namespace
+}  // namespace tavr::win32::testing

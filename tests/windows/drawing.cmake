@@ -1,0 +1,14 @@
+# The drawing code on pictures in memory, and the windows that only it makes. All
+# but the tests named Window... run without a display.
+set(folder ${CMAKE_CURRENT_LIST_DIR}/drawing)
+set_source_files_properties(${folder}/drawing_test.rc PROPERTIES
+  COMPILE_OPTIONS "-I${PROJECT_SOURCE_DIR}"
+  OBJECT_DEPENDS "${PROJECT_SOURCE_DIR}/resources/search.gif;${PROJECT_SOURCE_DIR}/resources/tavrwipe.ico")
+add_executable(contact_sheet ${folder}/contact_sheet.cc ${folder}/picture.cc
+               ${folder}/sample_picture.cc ${folder}/drawing_test.rc)
+target_link_libraries(contact_sheet PRIVATE tavr_ui_win32)
+
+file(GLOB sources CONFIGURE_DEPENDS ${folder}/*_test.cc)
+add_executable(test_drawing ${sources} ${folder}/picture.cc ${folder}/sample_picture.cc
+               ${folder}/test_window.cc ${folder}/drawing_test.rc)
+target_link_libraries(test_drawing PRIVATE tavr_ui_win32 gmock_main)

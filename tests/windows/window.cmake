@@ -1,0 +1,7 @@
+# Drives the windows of tavrwipe.exe, which it looks for beside itself with lang\:
+# scripts/prefix --run PEN 'C:\...\test_windows.exe', on a display with a window
+# manager.
+file(GLOB sources CONFIGURE_DEPENDS windows/window/*.cc)
+add_executable(test_windows ${sources})
+target_link_libraries(test_windows PRIVATE tavr_ui_win32 gmock_main)
+add_dependencies(test_windows tavrwipe)

@@ -1,0 +1,148 @@
+// Test, Erase, Stop and the log, pressed as a person presses them.
+#include <gmock/gmock.h>
+
+#include "platform/win32/wide.h"
+#include "services/settings_keys.h"
+#include "tests/windows/window/window_test.h"
+
+namespace tavr::testing {
+namespace {
+
+using ::testing::Contains;
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+
+constexpr int kSessions = 44;
+constexpr int kChromeRow = 2;
+constexpr int kStatus = 1;
+constexpr std::uint32_t kRun = 60000;   // ms
+constexpr std::uint32_t kAtOnce = 250;  // ms, as a person takes it
+constexpr int kManyFiles = 100000;
+
+std::string localAppData() {
+  wchar_t folder[MAX_PATH] = L"";
+  GetEnvironmentVariableW(L"LOCALAPPDATA", folder, MAX_PATH);
+  return win32::narrow(folder);
+}
+
+class Run : public WindowTest {
+ protected:
+  void TearDown() override {
+    WindowTest::TearDown();
+    for (int i = 0; i < planted_; ++i) DeleteFileW(place(session(i)).c_str());
+  }
+
+  static std::string session(int number) {
+    return localAppData() + "\\Google\\Chrome\\User Data\\Default\\Session Storage\\" +
+           std::to_string(number) + ".log";
+  }
+  void plant(int count) {
+    planted_ = count;
+    write(session(0), "trace");
+    for (int i = 1; i < count; ++i) {
+      const HANDLE file = CreateFileW(place(session(i)).c_str(), GENERIC_WRITE, 0, nullptr,
+                                      CREATE_ALWAYS, 0, nullptr);
+      CloseHandle(file);
+    }
+    select(kSessions);
+  }
+  bool finished() {
+    return comes([this] { return program().enabled("Form1.cmd_start"); }, kRun);
+  }
+  std::string status(int row) { return list("Form1.View100").text(row, kStatus); }
+
+ private:
+  int planted_ = 0;
+};
+
+TEST_F(Run, ATestCountsTheTracksAndErasesNothing) {
+  plant(3);
+  start();
+  program().click("Form1.cmd_test");
+  EXPECT_TRUE(comes([this] { return status(kChromeRow) == "Finished"; }, kRun));
+  EXPECT_TRUE(finished());
+  EXPECT_EQ(list("Form1.View100").text(kChromeRow, 2), "3");
+  EXPECT_EQ(program().text("Form1.Label4"), "3");
+  EXPECT_EQ(list("Form1.View200").rows(), 3);
+  EXPECT_THAT(list("Form1.View200").column(), Contains(HasSubstr("Session Storage\\0.log")));
+  for (int i = 0; i < 3; ++i) EXPECT_TRUE(exists(session(i)));
+}
+
+TEST_F(Run, AnEraseTakesTheTracksAndNotesThemInTheLog) {
+  plant(3);
+  start();
+  program().click("Form1.cmd_start");
+  EXPECT_TRUE(comes([this] { return status(kChromeRow) == "Finished"; }, kRun));
+  EXPECT_TRUE(finished());
+  for (int i = 0; i < 3; ++i) EXPECT_FALSE(exists(session(i)));
+  EXPECT_THAT(contents("eraselog.txt"), HasSubstr("Session Storage"));
+  EXPECT_FALSE(program().sees("Form1.bar1"));
+}
+
+TEST_F(Run, TheToolbarsTestTakesTheToolsAwayMeanwhile) {
+  plant(5000);
+  start();
+  program().click("Form1.Toolbar1(6)");
+  EXPECT_TRUE(comes([this] { return program().enabled("Form1.Toolbar1(10)"); }));
+  EXPECT_FALSE(program().enabled("Form1.Toolbar1(8)"));
+  EXPECT_TRUE(program().sees("Form1.Gif89a1"));
+  EXPECT_TRUE(program().sees("Form1.bar1"));
+  EXPECT_TRUE(comes([this] { return !program().sees("Form1.Gif89a1"); }, kRun));
+}
+
+TEST_F(Run, TotalsAndProgressMoveDuringARun) {
+  plant(20000);
+  start();
+  program().click("Form1.cmd_start");
+  EXPECT_TRUE(program().comesUp("Form1.bar1"));
+  EXPECT_TRUE(comes([this] { return list("Form1.View200").rows() > 100; }, kRun));
+  const int before = list("Form1.View200").rows();
+  EXPECT_TRUE(comes([&] { return list("Form1.View200").rows() > before; }, kRun));
+  EXPECT_EQ(status(kChromeRow), "Test Erasing");
+  EXPECT_TRUE(program().enabled("Form1.cmd_stop"));
+}
+
+TEST_F(Run, StopIsServedAtOnceWhileManyFilesAreErased) {
+  plant(kManyFiles);
+  start();
+  program().click("Form1.cmd_start");
+  EXPECT_TRUE(comes([this] { return list("Form1.View200").rows() > 1000; }, kRun));
+  const HWND stop = program().window("Form1.cmd_stop");
+  POINT at = middleOf(stop);
+  ClientToScreen(stop, &at);
+  movePointer(at);
+  pressMouse();
+  const ULONGLONG pressed = GetTickCount64();
+  EXPECT_TRUE(comes([&] { return !IsWindowEnabled(stop); }, kRun));
+  EXPECT_LE(GetTickCount64() - pressed, kAtOnce);
+  EXPECT_TRUE(finished());
+  EXPECT_TRUE(exists(session(0)) || exists(session(kManyFiles - 1)) ||
+              exists(session(kManyFiles / 2)));
+}
+
+TEST_F(Run, TheLogIsClearedAndTheProgramSaysSo) {
+  write("eraselog.txt", "an old line\r\n");
+  start();
+  program().click("Form1.cmd_clear");
+  EXPECT_TRUE(program().comesUp("frmmsg"));
+  EXPECT_EQ(program().text("frmmsg"), "Spoorwipe");
+  EXPECT_EQ(program().text("frmmsg.Text1"), "Successfully Cleaned Log File");
+  EXPECT_EQ(contents("eraselog.txt"), "");
+  program().click("frmmsg.chameleonButton1");
+  EXPECT_TRUE(program().goes("frmmsg"));
+}
+
+TEST_F(Run, TheLogIsShownByTheProgramThatOpensTexts) {
+  write("eraselog.txt", "one line\r\n");
+  start();
+  program().click("Form1.cmd_view");
+  HWND viewer = nullptr;
+  EXPECT_TRUE(comes([&] { return (viewer = FindWindowW(L"Notepad", nullptr)) != nullptr; }));
+  wchar_t title[256] = L"";
+  GetWindowTextW(viewer, title, 256);
+  EXPECT_THAT(win32::narrow(title), HasSubstr("eraselog"));
+  SendMessageW(viewer, WM_CLOSE, 0, 0);
+}
+
+}  // namespace
+}  // namespace tavr::testing

@@ -1,0 +1,69 @@
+// How the program comes up.
+#include "services/settings_keys.h"
+#include "tests/windows/window/window_test.h"
+
+namespace tavr::testing {
+namespace {
+
+class Start : public WindowTest {};
+
+TEST_F(Start, TheVeryFirstOneOpensErasingSettings) {
+  set(settings::kFirstTimeKey, "firsttime", "0");
+  start();
+  EXPECT_TRUE(program().comesUp("Form2"));
+  EXPECT_EQ(program().text("Form2"), "Erasing Settings");
+  EXPECT_FALSE(IsWindowEnabled(program().form("Form1")));
+  EXPECT_EQ(setting(settings::kFirstTimeKey, "firsttime"), "1");
+}
+
+TEST_F(Start, ALaterOneShowsTheMainFormAlone) {
+  start();
+  EXPECT_FALSE(program().sees("Form2"));
+  EXPECT_TRUE(IsWindowEnabled(program().form("Form1")));
+  EXPECT_EQ(program().text("Form1"), "Spoorwipe");
+}
+
+TEST_F(Start, TheMainFormStandsInTheMiddleOfTheScreen) {
+  start();
+  RECT at;
+  GetWindowRect(program().form("Form1"), &at);
+  EXPECT_NEAR(at.left + at.right, GetSystemMetrics(SM_CXSCREEN), 2);
+  // The main form is laid out with its strip.
+  EXPECT_NEAR(at.top + at.bottom, GetSystemMetrics(SM_CYSCREEN), 2);
+}
+
+TEST_F(Start, TheTaskTableHoldsTheSelectedTracksAndTheTenBrowsers) {
+  select(13);
+  select(8);
+  start();
+  EXPECT_TRUE(comes([this] { return list("Form1.View100").rows() == 12; }));
+  EXPECT_EQ(list("Form1.View100").text(0), "Recent Documents History");
+  EXPECT_EQ(list("Form1.View100").text(1), "Recycle Bin");
+  EXPECT_EQ(list("Form1.View100").header(0), "Task");
+}
+
+TEST_F(Start, StopIsDisabledWhileNothingRuns) {
+  start();
+  EXPECT_FALSE(program().enabled("Form1.cmd_stop"));
+  EXPECT_FALSE(program().enabled("Form1.Toolbar1(10)"));
+  EXPECT_TRUE(program().enabled("Form1.cmd_start"));
+}
+
+TEST_F(Start, TheSettingsAloneAreShownForTheirArgument) {
+  start("d");
+  EXPECT_TRUE(program().comesUp("Form2"));
+  EXPECT_FALSE(program().sees("Form1"));
+  program().click("Form2.chameleonButton4");
+  EXPECT_EQ(program().waitForEnd(), 0U);
+}
+
+// Wine's registry provider does not answer the question for another colour.
+TEST_F(Start, TheStripHasTheColourOfTheDesign) {
+  start();
+  constexpr COLORREF kStrip = 10118205;
+  const auto shown = [this] { return program().pixels("Form1")[20 * 960 + 500]; };
+  EXPECT_TRUE(comes([&] { return shown() == kStrip; })) << std::hex << shown();
+}
+
+}  // namespace
+}  // namespace tavr::testing

@@ -1,0 +1,92 @@
+#include "tests/windows/window/task_bar.h"
+
+#include <shellapi.h>
+
+#include "platform/win32/wide.h"
+
+namespace tavr::testing {
+
+namespace {
+
+constexpr wchar_t kClass[] = L"Shell_TrayWnd";  // what the shell's calls look for
+constexpr DWORD kLook = 20;
+
+// As Wine's shell hands it to the task bar.
+struct NotifyData {
+  LONG window;
+  UINT id;
+  UINT flags;
+  UINT message;
+  wchar_t tip[128];
+};
+
+}  // namespace
+
+TaskBar::TaskBar() {
+  WNDCLASSEXW window_class{};
+  window_class.cbSize = sizeof(window_class);
+  window_class.lpfnWndProc = &procedure;
+  window_class.hInstance = GetModuleHandleW(nullptr);
+  window_class.lpszClassName = kClass;
+  RegisterClassExW(&window_class);
+  window_ = CreateWindowExW(WS_EX_TOOLWINDOW, kClass, L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
+                            window_class.hInstance, nullptr);
+  SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  // The first of its class is found: ahead of one that the system runs.
+  SetWindowPos(window_, HWND_TOPMOST, 0, 0, 1, 1, SWP_NOACTIVATE);
+}
+
+TaskBar::~TaskBar() { DestroyWindow(window_); }
+
+LRESULT CALLBACK TaskBar::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+  auto* const bar = reinterpret_cast<TaskBar*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (bar == nullptr || message != WM_COPYDATA) {
+    return DefWindowProcW(window, message, wparam, lparam);
+  }
+  bar->take(*reinterpret_cast<const COPYDATASTRUCT*>(lparam));
+  return TRUE;
+}
+
+void TaskBar::take(const COPYDATASTRUCT& data) {
+  if (data.cbData < sizeof(NotifyData)) return;
+  const auto& asked = *static_cast<const NotifyData*>(data.lpData);
+  if (data.dwData == NIM_DELETE) return icon_.reset();
+  if (!icon_) icon_.emplace();
+  icon_->window = reinterpret_cast<HWND>(static_cast<LONG_PTR>(asked.window));
+  icon_->id = asked.id;
+  if ((asked.flags & NIF_MESSAGE) != 0) icon_->message = asked.message;
+  if ((asked.flags & NIF_TIP) != 0) icon_->tip = win32::narrow(asked.tip);
+}
+
+void TaskBar::pump() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+}
+
+std::optional<TaskBar::Icon> TaskBar::icon() {
+  pump();
+  return icon_;
+}
+
+bool TaskBar::showsIcon(std::uint32_t milliseconds) {
+  const ULONGLONG end = GetTickCount64() + milliseconds;
+  while (!icon() && GetTickCount64() < end) Sleep(kLook);
+  return icon_.has_value();
+}
+
+bool TaskBar::losesIcon(std::uint32_t milliseconds) {
+  const ULONGLONG end = GetTickCount64() + milliseconds;
+  while (icon() && GetTickCount64() < end) Sleep(kLook);
+  return !icon_.has_value();
+}
+
+void TaskBar::startAnew() {
+  icon_.reset();
+  PostMessageW(HWND_BROADCAST, RegisterWindowMessageW(L"TaskbarCreated"), 0, 0);
+}
+
+void TaskBar::mouse(UINT message) {
+  if (icon_) PostMessageW(icon_->window, icon_->message, icon_->id, static_cast<LPARAM>(message));
+}
+
+}  // namespace tavr::testing
