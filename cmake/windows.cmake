@@ -6,7 +6,7 @@ target_link_libraries(tavr_win32 PUBLIC advapi32 comdlg32 gdi32 ole32 oleaut32 s
                       uuid wbemuuid wininet)
 
 tavr_layer(tavr_ui_win32 FOLDERS ui/win32 USES tavr_engine tavr_win32)
-target_link_libraries(tavr_ui_win32 PUBLIC comctl32 gdiplus msimg32)
+target_link_libraries(tavr_ui_win32 PUBLIC comctl32 gdiplus)
 
 # The same bytes from any folder, and no more of them than are called.
 foreach(layer tavr_basic tavr_forms tavr_services tavr_tracks tavr_config tavr_engine tavr_win32

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "platform/win32/program_file.h"
 #include "platform/win32/wide.h"
 
 namespace tavr::win32 {
@@ -10,22 +11,10 @@ namespace {
 
 constexpr std::size_t kUsualRoom = 512;
 
-// Calls with growing room until the text fits; each of the calls tells in its
-// own way that it does not.
-std::wstring programFile() {
-  std::wstring path(kUsualRoom, L'\0');
-  for (;;) {
-    const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-    if (length < path.size()) {
-      path.resize(length);
-      return path;
-    }
-    path.resize(path.size() * 2);
-  }
-}
-
 }  // namespace
 
+// Called with growing room until the text fits; each of the two calls tells in its
+// own way that it does not.
 std::string Win32Environment::get(std::string_view name) {
   const std::wstring variable = wide(name);
   std::wstring text(kUsualRoom, L'\0');

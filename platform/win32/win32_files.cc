@@ -4,6 +4,7 @@
 
 #include "platform/win32/security_descriptor.h"
 #include "platform/win32/win32_open_file.h"
+#include "platform/win32/win32_error.h"
 #include "platform/win32/win32_path.h"
 
 namespace tavr::win32 {

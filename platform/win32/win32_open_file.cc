@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/win32/win32_error.h"
+
 namespace tavr::win32 {
 
 namespace {

@@ -6,6 +6,9 @@
 
 #include "basic/text.h"
 #include "basic/utf.h"
+#include "platform/win32/program_file.h"
+#include "platform/win32/wide.h"
+#include "platform/win32/win32_error.h"
 
 namespace tavr::win32 {
 
@@ -16,9 +19,8 @@ bool isSeparator(wchar_t unit) { return unit == L'\\' || unit == L'/'; }
 // Windows would take the current directory's drive, which the program changes.
 wchar_t programsDrive() {
   static const wchar_t kDrive = [] {
-    wchar_t path[MAX_PATH] = L"";
-    const DWORD length = GetModuleFileNameW(nullptr, path, MAX_PATH);
-    return length > 1 && path[1] == L':' ? path[0] : L'C';
+    const std::wstring path = programFile();
+    return path.size() > 1 && path[1] == L':' ? path[0] : L'C';
   }();
   return kDrive;
 }
@@ -67,41 +69,6 @@ void NativePath::add(char32_t character) {
 std::wstring_view NativePath::lastPart() const {
   const std::wstring_view all = text();
   return all.substr(all.find_last_of(L"\\/") + 1);
-}
-
-Status fileStatus(unsigned long error) {
-  switch (error) {
-    case ERROR_NO_MORE_FILES:
-      return kFileNotFound;
-    // Drives, shares and paths that are not there.
-    case ERROR_INVALID_DRIVE:
-    case ERROR_NOT_READY:
-    case ERROR_BAD_NETPATH:
-    case ERROR_BAD_NET_NAME:
-    case ERROR_BAD_PATHNAME:
-    case ERROR_FILENAME_EXCED_RANGE:
-    case ERROR_CANT_RESOLVE_FILENAME:
-      return kPathNotFound;
-    case ERROR_WRITE_PROTECT:
-    case ERROR_NETWORK_ACCESS_DENIED:
-    case ERROR_CANNOT_MAKE:
-    case ERROR_DELETE_PENDING:
-    case ERROR_PRIVILEGE_NOT_HELD:
-      return kAccessDenied;
-    case ERROR_LOCK_VIOLATION:
-    case ERROR_USER_MAPPED_FILE:
-      return kSharingViolation;
-    case ERROR_HANDLE_DISK_FULL:
-      return kDiskFull;
-    default:
-      return error;
-  }
-}
-
-Status lastFileStatus() {
-  const DWORD error = GetLastError();
-  // A call that failed must not look like one that did not.
-  return error == ERROR_SUCCESS ? kInvalidParameter : fileStatus(error);
 }
 
 Status lastStatusOfFile(const NativePath& path) {

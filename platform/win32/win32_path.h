@@ -1,4 +1,4 @@
-// A path as the file calls of Windows take it, and the numbers that they answer.
+// A path as the file calls of Windows take it.
 #pragma once
 
 #include <array>
@@ -35,12 +35,8 @@ class NativePath {
   Status refused_ = kSuccess;
 };
 
-/// The number for an error of GetLastError() after a call on files.
-Status fileStatus(unsigned long error);
-/// That of the calling thread's last call.
-Status lastFileStatus();
-/// The same for a call that wants a file: a folder is refused with 5 however its
-/// path is written.
+/// lastFileStatus() for a call that wants a file: a folder is refused with 5
+/// however its path is written.
 Status lastStatusOfFile(const NativePath& path);
 
 }  // namespace tavr::win32

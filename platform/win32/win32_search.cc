@@ -7,6 +7,7 @@
 #include "platform/win32/wide.h"
 #include "platform/win32/win32_files.h"
 #include "platform/win32/win32_name_pattern.h"
+#include "platform/win32/win32_error.h"
 #include "platform/win32/win32_path.h"
 
 namespace tavr::win32 {

@@ -9,7 +9,9 @@ namespace tavr::win32 {
 
 namespace {
 
-constexpr int kRow = 8;  // px; what stands in a row is not always level
+// What stands in a row has its middles on one line; a list begins where it does.
+constexpr int kRow = 8;       // px
+constexpr int kLargest = 60;  // px of height, of what is part of a row
 
 // An open list lies above what it covers.
 bool liesAbove(const Control& control) { return control.design.name == "pictrlang"; }
@@ -29,8 +31,12 @@ int partOf(const Form& form, const Control& control) {
   return 2;
 }
 
+int lineOf(const Box& box) {
+  return (box.height <= kLargest ? box.top + box.height / 2 : box.top) / kRow;
+}
+
 auto placeOf(const Form& form, const Control& control) {
-  return std::tuple(!liesAbove(control), partOf(form, control), control.box.top / kRow,
+  return std::tuple(!liesAbove(control), partOf(form, control), lineOf(control.box),
                     control.box.left);
 }
 

@@ -20,6 +20,7 @@
 #include "ui/win32/bound_result_list.h"
 #include "ui/win32/bound_scroll_bar.h"
 #include "ui/win32/bound_text.h"
+#include "ui/win32/caption.h"
 #include "ui/win32/control_places.h"
 #include "ui/win32/form_window.h"
 
@@ -171,7 +172,7 @@ void BoundControl::onAccessKey() { SetFocus(window_); }
 
 HBRUSH BoundControl::onColor(HDC dc) {
   const Palette& palette = form_.palette();
-  SetTextColor(dc, control_.enabled ? palette.text : palette.faint_text);
+  SetTextColor(dc, control_.enabled ? palette.text : disabledText(palette, palette.panel));
   SetBkColor(dc, palette.panel);
   return form_.panelBrush();
 }

@@ -27,7 +27,9 @@ void BoundLabel::draw(HDC dc, const RECT& area, const DrawnState& state) {
   shown.hovered = state.hovered && isLink();
   Palette palette = form_.palette();
   if (look_.label == LabelLook::kFaint) palette.text = palette.faint_text;
-  if (look_.label == LabelLook::kLink) palette.text = palette.accent;
+  if (look_.label == LabelLook::kLink) {
+    palette.text = palette.high_contrast ? GetSysColor(COLOR_HOTLIGHT) : palette.accent;
+  }
   if (look_.label == LabelLook::kTitle) palette.text = palette.strip_text;
   if (look_.label == LabelLook::kMenuRow && (shown.hovered || shown.focused)) {
     form_.fill(dc, area, palette.hover);

@@ -46,6 +46,11 @@ int BoundListView::share(std::size_t column) const {
 // Only the list in which a person chooses has them.
 bool BoundListView::hasBoxes() const { return static_cast<bool>(list_.onItemCheck); }
 
+COLORREF BoundListView::doneColor() const {
+  const Palette& palette = form_.palette();
+  return palette.high_contrast ? palette.text : kDoneColor;
+}
+
 void BoundListView::describe(std::size_t row, std::size_t column, Cell& cell) const {
   const ListRow& shown = shown_[row];
   if (column == 0) {
@@ -53,7 +58,7 @@ void BoundListView::describe(std::size_t row, std::size_t column, Cell& cell) co
     cell.has_box = hasBoxes();
     cell.checked = shown.checked;
     cell.icon = iconOf(shown);
-    cell.icon_color = shown.small_icon == "o" ? kDoneColor : form_.palette().accent;
+    cell.icon_color = shown.small_icon == "o" ? doneColor() : form_.palette().accent;
     return;
   }
   const ListCell& part = shown.cells[column - 1];
@@ -63,7 +68,7 @@ void BoundListView::describe(std::size_t row, std::size_t column, Cell& cell) co
   cell.at_far_edge = column == 2;
   if (part.report_icon.empty()) return;
   cell.icon = "done";
-  cell.icon_color = kDoneColor;
+  cell.icon_color = doneColor();
 }
 
 void BoundListView::syncOwn() {

@@ -23,6 +23,7 @@ class BoundListView : public ReportList {
  private:
   bool hasBoxes() const;
   void toggle(std::size_t row);
+  COLORREF doneColor() const;
 
   ListView& list_;
   std::vector<ListRow> shown_;

@@ -8,6 +8,7 @@ namespace tavr::win32 {
 namespace {
 
 constexpr double kPill = 100;
+constexpr double kCardLip = 3;
 
 // Off white, or the light sides of an edge would not be seen.
 COLORREF bevelGround(const StyleInk& ink) {
@@ -93,7 +94,7 @@ void doubleFrame(Canvas& canvas, const StyleInk& ink) {
 
 void card(Canvas& canvas, const StyleInk& ink) {
   RECT body = canvas.area();
-  const int lip = canvas.px(3);
+  const int lip = canvas.px(kCardLip);
   RECT under = body;
   under.top += lip;
   if (!ink.pressed) canvas.fillRound(under, 6, ink.dark);
@@ -123,7 +124,7 @@ constexpr Style kStyles[] = {
     {5, outline, {6, false, false, 10}},   {6, pill, {kPill, false, true, 14}},
     {7, bare, {4, false, false, 10}},      {8, bare, {4, false, false, 10}},
     {9, ruled, {0, false, false, 10}},     {11, doubleFrame, {0, false, false, 12}},
-    {12, bare, {4, false, false, 10}},     {13, card, {6, false, false, 10}},
+    {12, bare, {4, false, false, 10}},     {13, card, {6, false, false, 10, kCardLip}},
     {14, sideBar, {0, false, false, 14}},
 };
 

@@ -24,6 +24,7 @@ struct StyleTraits {
   bool pushes = false;  ///< the content moves with a press
   bool filled = false;  ///< its ground is the accent colour
   double padding = 10;
+  double lip = 0;  ///< of the height below the body, above it while pressed
 };
 
 /// Whether the type has a style of its own.

@@ -74,7 +74,8 @@ class Layer {
   std::uint32_t* pixels() const { return pixels_; }
   void show() const {
     const BLENDFUNCTION over{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
-    AlphaBlend(dc_, box_.left, box_.top, width(), height(), memory_, 0, 0, width(), height(), over);
+    GdiAlphaBlend(dc_, box_.left, box_.top, width(), height(), memory_, 0, 0, width(), height(),
+                  over);
   }
 
  private:

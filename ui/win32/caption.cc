@@ -71,7 +71,7 @@ UINT drawFormat(const CaptionLook& look, const DrawnState& state) {
 }  // namespace
 
 std::wstring installedFamily(std::string_view name) {
-  const std::wstring family = wide(name);
+  std::wstring family = wide(name);
   // Only the forms' own face is looked for: any other was chosen by a person.
   if (family != kFamilies[0]) return family;
   static const std::wstring nearest = nearestFamily();

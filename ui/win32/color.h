@@ -12,7 +12,7 @@ inline constexpr COLORREF kInk = RGB(30, 36, 48);
 
 /// `part` of the way from one colour to the other.
 COLORREF mix(COLORREF from, COLORREF to, double part);
-/// A pixel of a picture with opacity, as AlphaBlend takes it.
+/// A pixel of a picture with opacity, as GdiAlphaBlend takes it.
 std::uint32_t premultiplied(COLORREF color, double opacity);
 /// The grey of the same lightness.
 COLORREF greyOf(COLORREF color);

@@ -92,17 +92,15 @@ bool isGrouped(const Control& control) {
   return control.design.kind == ControlKind::kToolbarButton || isListRow(control);
 }
 
-bool takesKeyboard(const Form& form, const Control& control) {
-  return orderOf(form, control) >= 0;
-}
+bool takesKeyboard(const Form& form, const Control& control) { return orderOf(form, control) >= 0; }
 
 std::vector<Control*> focusOrder(const Form& form) {
   std::vector<Control*> order;
   for (Control* const control : form.controls()) {
     if (takesKeyboard(form, *control) && inSight(form, *control)) order.push_back(control);
   }
-  std::ranges::stable_sort(
-      order, {}, [&form](const Control* control) { return orderOf(form, *control); });
+  std::ranges::stable_sort(order, {},
+                           [&form](const Control* control) { return orderOf(form, *control); });
   return order;
 }
 

@@ -1,5 +1,6 @@
 // Plain buttons, by their role.
 #include <algorithm>
+#include <cmath>
 
 #include "ui/win32/button_face.h"
 
@@ -32,7 +33,9 @@ SIZE buttonSize(HDC dc, const Control& button, ButtonRole role, const DrawnState
   const ButtonFace face = faceOf(role, state, Palette{});
   // A navigation button is bold while its panel is open.
   const bool bold = face.bold || role == ButtonRole::kNavigation;
-  const auto px = [&state](double length) { return static_cast<int>(length * state.scale + 0.5); };
+  const auto px = [&state](double length) {
+    return static_cast<int>(std::lround(length * state.scale));
+  };
   const std::string_view caption = shownCaption(button, state);
   SIZE size{0, 0};
   if (!face.icon_alone && !caption.empty()) {

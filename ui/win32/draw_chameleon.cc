@@ -133,6 +133,14 @@ ButtonContent contentOf(const ChameleonButton& button, const DrawnState& state) 
   return content;
 }
 
+// Where the content of a style stands.
+RECT bodyOf(const Canvas& canvas, const StyleTraits& traits, bool pressed) {
+  RECT body = canvas.area();
+  if (traits.lip == 0) return body;
+  (pressed ? body.top : body.bottom) += canvas.px(traits.lip) * (pressed ? 1 : -1);
+  return body;
+}
+
 void drawStyled(Canvas& canvas, const ChameleonButton& button, const DrawnState& state,
                 const Palette& palette) {
   const StyleTraits traits = traitsOf(button.button_type);
@@ -141,14 +149,15 @@ void drawStyled(Canvas& canvas, const ChameleonButton& button, const DrawnState&
                            : inkOf(button, colorsOf(button, traits, palette), state, palette);
   drawStyle(canvas, button.button_type, ink);
   if (ink.flat && ink.hovered) canvas.strokeRound(canvas.area(), traits.radius, 2, palette.text);
+  Canvas body(canvas.dc(), bodyOf(canvas, traits, ink.pressed), canvas.scale());
   ButtonContent content = contentOf(button, state);
   content.caption = {ink.text, Side::kMiddle, false};
   content.padding = traits.padding;
   content.pushed = traits.pushes && ink.pressed ? canvas.px(1) : 0;
-  drawContent(canvas, button, content, state);
+  drawContent(body, button, content, state);
   if (state.focused && button.show_focus_rect) {
     const bool seen = contrast(ink.accent, ink.ground) >= kSeen;
-    drawFocus(canvas, canvas.area(), traits.radius, seen ? ink.accent : ink.text);
+    drawFocus(body, body.area(), traits.radius, seen ? ink.accent : ink.text);
   }
 }
 

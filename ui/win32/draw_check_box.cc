@@ -1,5 +1,6 @@
 // Check boxes and options: a sign, and the caption beside it.
 #include <algorithm>
+#include <cmath>
 
 #include "ui/win32/canvas.h"
 #include "ui/win32/caption.h"
@@ -146,7 +147,9 @@ void drawOption(HDC dc, const RECT& area, const Control& option, bool value,
 }
 
 SIZE boxSize(HDC dc, const Control& box, const DrawnState& state) {
-  const auto px = [&state](double length) { return static_cast<int>(length * state.scale + 0.5); };
+  const auto px = [&state](double length) {
+    return static_cast<int>(std::lround(length * state.scale));
+  };
   const std::string_view caption = shownCaption(box, state);
   if (caption.empty()) return {px(kSign), px(kSign)};
   const SIZE text = textSize(dc, caption, box.font, state.scale, false);

@@ -140,6 +140,7 @@ void FormWindow::takeLook(COLORREF strip, bool right_to_left) {
     right_to_left_ = right_to_left;
     last_focus_ = focused();
     bound_.clear();
+    ordered_ = 0;
     tips_ = std::make_unique<ToolTips>(window_, right_to_left);
   }
   RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
@@ -349,6 +350,10 @@ LRESULT FormWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_THEMECHANGED:
     case WM_SETTINGCHANGE:
       takeLook(strip_, right_to_left_);
+      // Only whole windows are told; lists and boxes keep colours of their own.
+      for (const auto& [control, bound] : bound_) {
+        SendMessageW(bound->window(), message, wparam, lparam);
+      }
       break;
     default:
       if (route(message, wparam, lparam, answer)) return answer;

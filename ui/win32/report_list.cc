@@ -4,6 +4,7 @@
 
 #include "platform/win32/wide.h"
 #include "ui/win32/artwork.h"
+#include "ui/win32/caption.h"
 #include "ui/win32/form_window.h"
 
 namespace tavr::win32 {
@@ -12,8 +13,8 @@ namespace {
 
 constexpr int kRowHeight = 26;
 constexpr int kHeaderHeight = 28;
-constexpr int kPadding = 12;  // px before and behind a text
-constexpr int kSign = 16;     // px of an icon or a check box
+constexpr int kPadding = 12;   // px before and behind a text
+constexpr int kSign = 16;      // px of an icon or a check box
 constexpr UINT kUnticked = 1;  // the numbers of a list's own check boxes
 constexpr UINT kTicked = 2;
 constexpr UINT_PTR kHeaderSubclass = 1;
@@ -196,6 +197,8 @@ void ReportList::drawRow(HDC dc, std::size_t row) {
   ListView_GetItemRect(window_, item, &area, LVIR_BOUNDS);
   const bool selected = ListView_GetItemState(window_, item, LVIS_SELECTED) != 0;
   form_.fill(dc, area, selected ? palette.selection : palette.panel);
+  // With few colours there is one that is read on what is selected.
+  const bool turned = selected && palette.high_contrast;
   int left = area.left;
   for (std::size_t i = 0; i < shown_columns_.size(); ++i) {
     RECT part = area;
@@ -203,8 +206,9 @@ void ReportList::drawRow(HDC dc, std::size_t row) {
     part.right = left + ListView_GetColumnWidth(window_, static_cast<int>(i));
     left = part.right;
     Cell cell;
-    cell.color = control_.enabled ? palette.text : palette.faint_text;
+    cell.color = control_.enabled ? palette.text : disabledText(palette, palette.panel);
     describe(row, i, cell);
+    if (turned) cell.color = cell.icon_color = palette.accent_text;
     drawCell(dc, part, cell);
   }
   const bool focused = selected && GetFocus() == window_ && form_.showsFocus();

@@ -56,7 +56,7 @@ void layShadowOut(HDC dc, const ShadowLook& look, SIZE whole) {
   const int bottom = whole.cy - size;
   const auto tile = [&](int column, int row, RECT to) {
     StretchDIBits(dc, to.left, to.top, to.right - to.left, to.bottom - to.top, column * size, 0,
-                  size, size, tiles.data() + row * 4 * size * size, &format, DIB_RGB_COLORS,
+                  size, size, tiles.data() + row * (tiles.size() / 2), &format, DIB_RGB_COLORS,
                   SRCCOPY);
   };
   SetStretchBltMode(dc, COLORONCOLOR);

@@ -1,9 +1,20 @@
 // What a screen reader is told of every self-drawn control of every form.
 #include <gmock/gmock.h>
+#include <windows.h>
+// Behind windows.h.
+#include <commctrl.h>
 
-#include "forms/form3.h"
+#include <algorithm>
+#include <array>
+#include <map>
+
+#include "forms/list_view.h"
 #include "tests/windows/accessible/asked.h"
 #include "tests/windows/accessible/shown_program.h"
+#include "ui/win32/accessible_annotation.h"
+#include "ui/win32/accessible_name.h"
+#include "ui/win32/accessible_order.h"
+#include "ui/win32/accessible_words.h"
 #include "ui/win32/drawn_control.h"
 
 namespace tavr::win32::testing {
@@ -77,11 +88,86 @@ TEST_P(AccessibleForms, EveryControlIsWhereItIsSeenAndFoundThere) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    All, AccessibleForms, ::testing::ValuesIn(kFormPanels), [](const auto& panel) {
-      return std::string(panel.param.form) +
-             (panel.param.opened_by.empty() ? "" : "_" + std::string(panel.param.opened_by));
-    });
+TEST_P(AccessibleForms, TheWindowsOfOneHolderStandInTheOrderOfReading) {
+  ShownProgram shown;
+  open(shown, GetParam());
+  const Form& form = shown.form(GetParam().form);
+  std::map<std::string_view, const BoundControl*> last;
+  for (const BoundControl* const bound : shown.shown(GetParam().form)) {
+    const BoundControl*& before = last[bound->control().design.parent];
+    if (before) {
+      EXPECT_FALSE(isReadBefore(form, bound->control(), before->control()))
+          << nameOf(*bound) << " behind " << nameOf(*before);
+    }
+    before = bound;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, AccessibleForms, ::testing::ValuesIn(kFormPanels), nameOfPanel);
+
+TEST(AccessibleControls, AFormIsReadFromItsStripToItsFoot) {
+  ShownProgram shown;
+  std::vector<std::string> names;
+  for (const BoundControl* const bound : shown.shown("Form1")) names.push_back(nameOf(*bound));
+  const auto at = [&names](std::string_view name) { return std::ranges::find(names, name); };
+  EXPECT_EQ(names.front(), "chameleonButton12");
+  EXPECT_LT(at("chameleonButton9"), at("Toolbar1"));
+  EXPECT_LT(at("Toolbar1(14)"), at("cmd_settings"));
+  EXPECT_LT(at("cmd_settings"), at("cmd_start"));
+  EXPECT_LT(at("chameleonButton11"), at("View100"));
+  EXPECT_LT(at("View100"), at("View200"));
+  EXPECT_LT(at("View200"), at("Label2"));
+}
+
+TEST(AccessibleControls, AToolIsNamedLikeItsCommandAndSoIsItsTip) {
+  ShownProgram shown("de");
+  for (BoundControl* const bound : shown.shown("Form1")) {
+    if (nameOf(*bound) != "Toolbar1(8)") continue;
+    EXPECT_EQ(bound->tip(), "Löschen");
+  }
+  EXPECT_EQ(ask(shown.window("Form1", "Toolbar1(8)")).name, "Löschen");
+}
+
+// Natively Windows gives a list its rows, and reads its own boxes out.
+TEST(AccessibleControls, TheTickOfAPlugInIsTheListsOwn) {
+  ShownProgram shown;
+  open(shown, {"Form2", "chameleonButton31"});
+  auto& list = dynamic_cast<ListView&>(shown.control("Form2", "View1"));
+  list.clear();
+  list.add("First", "p").checked = true;
+  list.add("Second", "p");
+  shown.pump();
+  const HWND window = shown.window("Form2", "View1");
+  const auto ticked = [window](int row) { return ListView_GetCheckState(window, row); };
+  EXPECT_EQ(ticked(0), 1U);
+  EXPECT_EQ(ticked(1), 0U);
+  list.item(2).checked = true;
+  shown.pump();
+  EXPECT_EQ(ticked(1), 1U);
+}
+
+TEST(AccessibleControls, ANativeBoxIsNamedByItsRow) {
+  ShownProgram shown;
+  open(shown, {"Form3", "cmd_plugin"});
+  const HWND box = shown.window("Form3", "Combo1");
+  EXPECT_EQ(accessibleName(shown.form("Form3"), shown.control("Form3", "Combo1"), "en"),
+            "Overwrite File(s) Time(s) Before Deleting it.");
+  AccessibleAnnotation annotation;
+  if (!annotation.show(box, "Probe")) GTEST_SKIP() << "this system names no native windows";
+  EXPECT_EQ(ask(box).name, "Probe");
+}
+
+TEST(AccessibleWords, EverySignHasAWordInEveryLanguage) {
+  for (const std::string_view sign : {"close", "minimise", "about", "help", "check-all"}) {
+    EXPECT_NE(wordOfSign(sign, "en"), "");
+    for (const std::string_view language :
+         {"de", "fr", "es", "it", "pt", "pl", "ru", "tr", "zh", "ja", "ar"}) {
+      EXPECT_NE(wordOfSign(sign, language), wordOfSign(sign, "en")) << sign << language;
+    }
+  }
+  EXPECT_EQ(wordOfSign("close", "xx"), "Close");
+  EXPECT_EQ(wordOfSign("settings", "de"), "");
+}
 
 TEST(AccessibleControls, ACheckBoxIsNamedByTheLabelBesideIt) {
   ShownProgram shown("de");

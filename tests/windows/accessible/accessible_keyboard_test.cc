@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <cctype>
 #include <set>
 #include <string>
 
@@ -9,13 +10,11 @@
 #include "tests/windows/accessible/shown_program.h"
 #include "ui/win32/access_keys.h"
 #include "ui/win32/accessible_facts.h"
+#include "ui/win32/accessible_name.h"
 #include "ui/win32/control_places.h"
 
 namespace tavr::win32::testing {
 namespace {
-
-constexpr std::string_view kLanguages[] = {"en", "de", "fr", "es", "it", "pt",
-                                           "pl", "ru", "tr", "zh", "ja", "ar"};
 
 std::string nameOf(const Control& control) {
   return fullName(control.design.name, control.design.index);
@@ -56,12 +55,22 @@ TEST_P(KeyboardForms, WhatAPersonCanPressTabAndTheArrowsReach) {
   }
 }
 
-TEST_P(KeyboardForms, EveryCaptionHasAnAccessKeyOfItsOwnInEveryLanguage) {
-  for (const std::string_view language : kLanguages) {
-    SCOPED_TRACE(language);
-    ShownProgram shown(language);
-    open(shown, GetParam());
-    const Form& form = shown.form(GetParam().form);
+INSTANTIATE_TEST_SUITE_P(All, KeyboardForms, ::testing::ValuesIn(kFormPanels), nameOfPanel);
+
+bool hasCaption(const Control& control) {
+  const ControlKind kind = control.design.kind;
+  if (kind == ControlKind::kCheckBox || kind == ControlKind::kOption) return true;
+  const auto letter = [](char c) { return static_cast<signed char>(c) < 0 || isalpha(c) != 0; };
+  return kind == ControlKind::kButton && std::ranges::count_if(control.caption, letter) > 1;
+}
+
+class KeyboardLanguages : public ::testing::TestWithParam<std::string_view> {};
+
+TEST_P(KeyboardLanguages, EveryCaptionHasAnAccessKeyOfItsOwn) {
+  ShownProgram shown(GetParam());
+  for (const FormPanel& panel : kFormPanels) {
+    open(shown, panel);
+    const Form& form = shown.form(panel.form);
     std::set<char32_t> letters;
     std::set<const Control*> targets;
     for (const AccessKey& key : accessKeys(form)) {
@@ -69,21 +78,17 @@ TEST_P(KeyboardForms, EveryCaptionHasAnAccessKeyOfItsOwnInEveryLanguage) {
       targets.insert(key.target);
     }
     for (const Control* const control : focusOrder(form)) {
-      const bool captioned = control->design.kind == ControlKind::kButton &&
-                             !control->caption.empty() && control->caption.size() > 3;
-      const bool box = control->design.kind == ControlKind::kCheckBox ||
-                       control->design.kind == ControlKind::kOption;
-      if (!captioned && !box) continue;
-      EXPECT_TRUE(targets.contains(control)) << nameOf(*control);
+      // Signs that stand where a dash or a cross is the caption.
+      if (!hasCaption(*control) || showsSignAlone(form, *control)) continue;
+      EXPECT_TRUE(targets.contains(control)) << nameOf(*control) << " of " << panel.form;
     }
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    All, KeyboardForms, ::testing::ValuesIn(kFormPanels), [](const auto& panel) {
-      return std::string(panel.param.form) +
-             (panel.param.opened_by.empty() ? "" : "_" + std::string(panel.param.opened_by));
-    });
+INSTANTIATE_TEST_SUITE_P(All, KeyboardLanguages,
+                         ::testing::Values("en", "de", "fr", "es", "it", "pt", "pl", "ru", "tr",
+                                           "zh", "ja", "ar"),
+                         [](const auto& language) { return std::string(language.param); });
 
 /// A key as the loop passes it on; what it leaves goes to the window.
 void press(ShownProgram& shown, HWND window, WPARAM key) {

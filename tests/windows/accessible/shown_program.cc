@@ -2,8 +2,6 @@
 
 #include <commctrl.h>
 
-#include <string>
-
 #include "platform/win32/wide.h"
 #include "services/settings_keys.h"
 
@@ -88,6 +86,12 @@ std::vector<BoundControl*> ShownProgram::shown(std::string_view form) const {
   std::vector<BoundControl*> controls;
   EnumChildWindows(formWindow(form), &collect, reinterpret_cast<LPARAM>(&controls));
   return controls;
+}
+
+std::string nameOfPanel(const ::testing::TestParamInfo<FormPanel>& panel) {
+  std::string name(panel.param.form);
+  if (!panel.param.opened_by.empty()) name += "_" + std::string(panel.param.opened_by);
+  return name;
 }
 
 void open(ShownProgram& shown, const FormPanel& panel) {

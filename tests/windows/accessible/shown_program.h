@@ -3,8 +3,10 @@
 // machine that it runs on.
 #pragma once
 
+#include <gtest/gtest.h>
 #include <windows.h>
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -65,6 +67,9 @@ inline constexpr FormPanel kFormPanels[] = {
     {"frmmsg", ""},
     {"frmabout", ""},
 };
+
+/// As the name of a test that is run for each of them.
+std::string nameOfPanel(const ::testing::TestParamInfo<FormPanel>& panel);
 
 /// Opens a form at one of its panels.
 void open(ShownProgram& shown, const FormPanel& panel);
