@@ -24,7 +24,7 @@ Program::Program(Machine& on)
       form(on),
       message(on.events),
       numbers(on),
-      registry(on, form.List12, form.List20, form.Text2),
+      registry(on, form.List12, form.List20, form.Text2, &form.grant_failed),
       deletion(on, form, numbers),
       cache(on, form),
       tracks{on, form, registry, deletion, cache, call_stack},

@@ -33,8 +33,8 @@ class Locale {
   /// The long time form, e.g. "10:00:00 AM".
   virtual std::string longTime(const LocalTime& time) = 0;
   /// The date that a text in these forms stands for, with or without a time
-  /// behind it, as a date value: days since 30 December 1899, the time of day as
-  /// a fraction. Whatever shortDate and longTime write is read back. Nothing: the
+  /// behind it, or the time alone, as a date value: days since 30 December 1899,
+  /// the time of day as a fraction. Whatever shortDate and longTime write is read back. Nothing: the
   /// text is no date.
   virtual std::optional<double> dateValue(std::string_view text) = 0;
   /// The sign between whole and fraction.

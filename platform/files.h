@@ -99,8 +99,8 @@ class Files {
   /// GetFileAttributes. 2, 3: missing.
   virtual Status attributes(std::string_view path, std::uint32_t& out) = 0;
 
-  /// SetFileAttributes: read-only, hidden and system are set or cleared, other
-  /// bits change nothing.
+  /// SetFileAttributes: read-only, hidden, system and archive are set or cleared,
+  /// other bits change nothing. A machine folder keeps no archive bit.
   virtual Status setAttributes(std::string_view path, std::uint32_t attributes) = 0;
 
   /// DeleteFile. 2, 3: missing; 5: read-only, or a folder; 32: held open;

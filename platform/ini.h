@@ -1,7 +1,12 @@
 // INI files through the profile services of Windows. Section and key names
 // compare without case; the first match counts, of a section too; a value loses
 // the blanks around it and, read as a text, one pair of quotes that encloses it.
-// A line that begins with ";" is a comment.
+// A line that begins with ";" is a comment. Text is UTF-8 in the file, too.
+//
+// Paths are those of platform/files.h, and one that its operations refuse names no
+// file here. A bare name without any folder is what the machine makes of it: Windows
+// looks for it, and writes it, in its own folder, a machine folder in the current
+// directory.
 #pragma once
 
 #include <cstdint>
@@ -34,7 +39,8 @@ class IniFiles {
                                  std::string_view file) = 0;
 
   /// WritePrivateProfileString: sets the key, making file, section and line as
-  /// needed; every other line stays as it was. 5 or 32 when the file refuses.
+  /// needed; every other line stays as it was. 5 or 32 when the file refuses; the
+  /// numbers of files.h for a path that is no file's.
   virtual Status writeString(std::string_view section, std::string_view key, std::string_view value,
                              std::string_view file) = 0;
 };

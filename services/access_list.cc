@@ -8,6 +8,7 @@ namespace {
 
 constexpr std::size_t kEntryHeaderSize = 4;
 constexpr std::size_t kSidOffset = kEntryHeaderSize + 4;  // behind the mask
+constexpr std::size_t kSidHeaderSize = 8;                 // revision, count, authority
 
 void appendNumber(std::string& bytes, std::uint64_t number, std::size_t size) {
   for (std::size_t i = 0; i < size; ++i) bytes.push_back(static_cast<char>(number >> (8 * i)));
@@ -40,7 +41,13 @@ AccessEntry::AccessEntry(std::uint8_t type, std::uint8_t flags, std::uint32_t ma
 std::uint8_t AccessEntry::type() const { return static_cast<std::uint8_t>(bytes_[0]); }
 std::uint8_t AccessEntry::flags() const { return static_cast<std::uint8_t>(bytes_[1]); }
 std::uint32_t AccessEntry::mask() const { return numberAt(bytes_, kEntryHeaderSize, 4); }
-std::string_view AccessEntry::sid() const { return std::string_view(bytes_).substr(kSidOffset); }
+
+std::string_view AccessEntry::sid() const {
+  const std::string_view rest = std::string_view(bytes_).substr(kSidOffset);
+  if (rest.size() < kSidHeaderSize) return rest;
+  // Its second byte counts the sub-authorities; conditions may stand behind them.
+  return rest.substr(0, kSidHeaderSize + 4 * numberAt(rest, 1, 1));
+}
 
 AccessList::AccessList(std::string_view bytes) : size_(bytes.size()) {
   if (bytes.size() < kHeaderSize) return;

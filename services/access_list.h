@@ -30,7 +30,8 @@ class AccessEntry {
   std::uint8_t type() const;
   std::uint8_t flags() const;
   std::uint32_t mask() const;
-  /// The account, of the plain entry types: what stands behind the mask.
+  /// The account, of the entry types that have it behind the mask: as long as it
+  /// says itself, whatever follows.
   std::string_view sid() const;
   std::string_view bytes() const { return bytes_; }
 

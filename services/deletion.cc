@@ -54,11 +54,15 @@ bool Deletion::fFileRemains(std::string_view file) {
   return length > 0 || opens || Dir(machine_, path).empty();
 }
 
+void Deletion::grantSessionManager() {
+  form_.grant_failed = !GrantKeyAccess(machine_, Root::kLocalMachine, kSessionManager,
+                                       machine_.environment.get("UserName"));
+}
+
 void Deletion::pndtxt() {
   ResumeNext on;
   form_.Text16.setText("");
-  GrantKeyAccess(machine_, Root::kLocalMachine, kSessionManager,
-                 machine_.environment.get("UserName"));
+  grantSessionManager();
   std::unique_ptr<StdRegProv> provider;
   on.next([&] { provider = bindProvider(machine_); });
   std::vector<std::string> entries;
@@ -77,8 +81,7 @@ void Deletion::growPending() {
 
 void Deletion::savepending() {
   ResumeNext on;
-  GrantKeyAccess(machine_, Root::kLocalMachine, kSessionManager,
-                 machine_.environment.get("UserName"));
+  grantSessionManager();
   on.next([&] {
     const auto provider = bindProvider(machine_);
     provider->createKey(kLocalMachine, kSessionManager);

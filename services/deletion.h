@@ -48,6 +48,7 @@ class Deletion {
 
  private:
   void growPending();
+  void grantSessionManager();
 
   Machine& machine_;
   Form1& form_;

@@ -40,8 +40,15 @@ using RegistryVariant = std::variant<std::monostate, std::int32_t, std::string, 
 class RegistryLayer {
  public:
   /// The list boxes are the main form's; one caller uses them at a time.
-  RegistryLayer(Machine& machine, TextList& list12, TextList& list20, TextBox& text2)
-      : machine_(machine), List12_(list12), List20_(list20), Text2_(text2) {}
+  /// `grant_failed`, the form's too where it is given, holds how the last grant of
+  /// access went.
+  RegistryLayer(Machine& machine, TextList& list12, TextList& list20, TextBox& text2,
+                bool* grant_failed = nullptr)
+      : machine_(machine),
+        List12_(list12),
+        List20_(list20),
+        Text2_(text2),
+        grant_failed_(grant_failed) {}
 
   /// The root code of a root text; kFileRoot for the path of a file.
   std::uint32_t fHiveCode(std::string_view root) const;
@@ -90,6 +97,7 @@ class RegistryLayer {
                     AddName destination);
   Status appendValue(RegistryKey& key, std::uint32_t type, std::uint32_t size, std::string& name,
                      std::string& packed) const;
+  void grant(Root root, std::string_view key) const;
   void addToList12(std::string_view name);
   void addToList20(std::string_view name);
   void addToText2(std::string_view name);
@@ -100,6 +108,7 @@ class RegistryLayer {
   TextList& List12_;
   TextList& List20_;
   TextBox& Text2_;
+  bool* grant_failed_;
 };
 
 /// The code module's copy of fHiveCode, which serves the settings form: it

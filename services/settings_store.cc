@@ -28,9 +28,14 @@ void appendHexDigits(std::string_view bytes, std::string& out) {
 
 }  // namespace
 
+void RegistryLayer::grant(Root root, std::string_view key) const {
+  const bool granted = GrantKeyAccess(machine_, root, key, machine_.environment.get("UserName"));
+  if (grant_failed_ != nullptr) *grant_failed_ = !granted;
+}
+
 bool RegistryLayer::fGetString(Root root, std::string_view key, std::string_view name,
                                std::string& out) const {
-  GrantKeyAccess(machine_, root, key, machine_.environment.get("UserName"));
+  grant(root, key);
   const OpenedKey opened = machine_.registry.open(root, key, kSettingsAccess);
   RegistryData data;
   if (opened.status != kSuccess || opened.key->queryValue(name, kBuffer, data) != kSuccess) {
@@ -56,7 +61,7 @@ std::string RegistryLayer::setting(std::string_view key, std::string_view name) 
 
 bool RegistryLayer::fSaveString(Root root, std::string_view key, std::string_view name,
                                 std::string_view text) const {
-  GrantKeyAccess(machine_, root, key, machine_.environment.get("UserName"));
+  grant(root, key);
   const OpenedKey opened = machine_.registry.create(root, key, "1", kSettingsAccess);
   if (opened.status != kSuccess) return false;
   return opened.key->setValue(name, kRegSz, text) == kSuccess;

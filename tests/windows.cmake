@@ -3,11 +3,12 @@
 file(GLOB sources CONFIGURE_DEPENDS contract/*_contract_test.cc contract/win32_*.cc
      windows/*_test.cc)
 add_executable(test_contract ${sources})
-target_link_libraries(test_contract PRIVATE tavr_services tavr_win32 gmock_main)
+target_link_libraries(test_contract PRIVATE tavr_services tavr_win32 gmock_main wininet)
 
-# Started by test_contract under other names; it looks for it beside itself.
+# Started by test_contract under other names; it looks for them beside itself.
 add_executable(sleeper WIN32 windows/sleeper.cc)
-add_dependencies(test_contract sleeper)
+add_executable(recorder WIN32 windows/recorder.cc)
+add_dependencies(test_contract sleeper recorder)
 
 include(windows/programs.cmake)
 
@@ -15,3 +16,4 @@ include(windows/drawing.cmake)
 
 include(windows/accessible.cmake)
 include(windows/window.cmake)
+include(windows/screenshots.cmake)

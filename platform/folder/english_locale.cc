@@ -81,6 +81,7 @@ std::string EnglishLocale::longTime(const LocalTime& time) {
 
 std::optional<double> EnglishLocale::dateValue(std::string_view raw) {
   const std::string_view text = Trim(raw);
+  if (const std::optional<double> time = timeOfDay(text)) return time;
   const std::size_t blank = text.find(' ');
   const std::vector<int> parts = numbersIn(text.substr(0, blank));
   if (parts.size() != 3) return {};

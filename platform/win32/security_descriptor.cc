@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/win32/win32_error.h"
+
 namespace tavr::win32 {
 
 namespace {
@@ -22,7 +24,7 @@ Status takeApart(void* native, SecurityDescriptor& out) {
   PACL list = nullptr;
   if (!GetSecurityDescriptorControl(native, &control, &revision) ||
       !GetSecurityDescriptorDacl(native, &present, &list, &defaulted)) {
-    return GetLastError();
+    return lastStatus();
   }
   out.control = control;
   if (present && list != nullptr) {
@@ -69,7 +71,7 @@ NativeDescriptor::NativeDescriptor(const SecurityDescriptor& descriptor)
   if (!InitializeSecurityDescriptor(native, SECURITY_DESCRIPTOR_REVISION) ||
       !SetSecurityDescriptorDacl(native, TRUE, list, FALSE) ||
       !SetSecurityDescriptorControl(native, kControl, descriptor.control & kControl)) {
-    status_ = GetLastError();
+    status_ = lastStatus();
   }
 }
 

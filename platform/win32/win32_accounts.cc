@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "platform/win32/wide.h"
+#include "platform/win32/win32_error.h"
 
 namespace tavr::win32 {
 
@@ -19,7 +20,7 @@ Status lookUp(std::string_view account, std::string& sid) {
   SID_NAME_USE use = SidTypeUnknown;
   const bool found = LookupAccountNameW(nullptr, wide(account).c_str(), sid.data(), &size,
                                         domain.data(), &domain_size, &use) != FALSE;
-  const Status status = found ? kSuccess : GetLastError();
+  const Status status = found ? kSuccess : lastStatus();
   sid.resize(found ? GetLengthSid(sid.data()) : 0);
   return status;
 }

@@ -5,6 +5,7 @@
 #include <oleauto.h>
 
 #include <memory>
+#include <string>
 
 #include "platform/win32/wide.h"
 
@@ -29,15 +30,15 @@ struct FreeText {
   void operator()(wchar_t* text) const { SysFreeString(text); }
 };
 
-// A date before the calendar of files (1601), which the formatting refuses and a
-// date value can hold. "" for what is no date.
-std::string ancientDate(const SYSTEMTIME& time) {
+// Written by the service that reads dates back, in its calendar: the formats of
+// the user may be those of another. "" for what is no date.
+std::string textOf(const SYSTEMTIME& time, ULONG part) {
   UDATE calendar{};
   calendar.st = time;
   DATE date = 0;
   BSTR text = nullptr;
   if (FAILED(VarDateFromUdate(&calendar, 0, &date)) ||
-      FAILED(VarBstrFromDate(date, LOCALE_USER_DEFAULT, VAR_DATEVALUEONLY, &text))) {
+      FAILED(VarBstrFromDate(date, LOCALE_USER_DEFAULT, part, &text))) {
     return {};
   }
   const std::unique_ptr<wchar_t, FreeText> owned(text);
@@ -66,14 +67,20 @@ LocalTime Win32Clock::now() {
 
 std::string Win32Locale::shortDate(const LocalTime& time) {
   const SYSTEMTIME system_time = systemTime(time);
+  std::string date = textOf(system_time, VAR_DATEVALUEONLY);
+  if (!date.empty()) return date;
+  // Day zero of date values is no date to that service.
   wchar_t text[kTextLength] = L"";
-  const int length = GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, DATE_SHORTDATE, &system_time,
-                                     nullptr, text, kTextLength, nullptr);
-  return length > 0 ? narrow(text) : ancientDate(system_time);
+  GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, DATE_SHORTDATE, &system_time, nullptr, text,
+                  kTextLength, nullptr);
+  return narrow(text);
 }
 
 std::string Win32Locale::longTime(const LocalTime& time) {
   const SYSTEMTIME system_time = systemTime(time);
+  std::string written = textOf(system_time, VAR_TIMEVALUEONLY);
+  if (!written.empty()) return written;
+  // Midnight is no time to that service.
   wchar_t text[kTextLength] = L"";
   GetTimeFormatEx(LOCALE_NAME_USER_DEFAULT, 0, &system_time, nullptr, text, kTextLength);
   return narrow(text);

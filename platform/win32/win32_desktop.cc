@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "basic/utf.h"
 #include "platform/win32/wide.h"
 
 namespace tavr::win32 {
@@ -19,6 +20,11 @@ constexpr UINT kTrayMessage = 512;
 // One text of 64 characters with its NUL, as the icons of old have it.
 constexpr std::size_t kTipLength = 63;
 constexpr std::size_t kChosenLength = 1024;
+constexpr UINT kRetryInterval = 1000;  // ms
+
+void CALLBACK onSystemTimer(HWND /*window*/, UINT /*message*/, UINT_PTR timer, DWORD /*time*/) {
+  Win32Desktop::onTimer(timer);
+}
 
 // "text|pattern|text|pattern" as the dialog takes it: each with its NUL, and one
 // more at the end.
@@ -37,6 +43,11 @@ void Win32Desktop::setTray(void* window, void* icon) {
   if (window != tray_window_) removeTrayIcon();
   tray_window_ = window;
   icon_ = icon;
+  if (window == nullptr) return;
+  // Messages from programs with lower rights are held back, and the task bar is one
+  // where this program was started with the highest.
+  ChangeWindowMessageFilterEx(static_cast<HWND>(window), RegisterWindowMessageW(L"TaskbarCreated"),
+                              MSGFLT_ALLOW, nullptr);
 }
 
 ScreenSize Win32Desktop::screen() {
@@ -52,36 +63,59 @@ void Win32Desktop::unregisterHotKey(int id) {
   if (window_ != nullptr) UnregisterHotKey(static_cast<HWND>(window_), id);
 }
 
-bool Win32Desktop::notify(unsigned long operation, std::string_view tool_tip) const {
+bool Win32Desktop::notify(unsigned long operation, unsigned flags) const {
   NOTIFYICONDATAW data{};
   data.cbSize = sizeof(data);
   data.hWnd = static_cast<HWND>(tray_window_);
   data.uID = kIconId;
-  data.uFlags = NIF_MESSAGE;
+  data.uFlags = flags;
   data.uCallbackMessage = kTrayMessage;
-  if (icon_ != nullptr) {
-    data.uFlags |= NIF_ICON;
-    data.hIcon = static_cast<HICON>(icon_);
-  }
-  const std::wstring tip = wide(leftUtf16(tool_tip, kTipLength));
-  if (!tip.empty() || operation == NIM_MODIFY) data.uFlags |= NIF_TIP;
+  data.hIcon = static_cast<HICON>(icon_);
+  const std::wstring tip = wide(leftUtf16(tool_tip_, kTipLength));
   std::copy(tip.begin(), tip.end(), std::begin(data.szTip));
   return Shell_NotifyIconW(operation, &data) != FALSE;
 }
 
+void Win32Desktop::show() {
+  UINT flags = NIF_MESSAGE;
+  if (icon_ != nullptr) flags |= NIF_ICON;
+  if (!tool_tip_.empty()) flags |= NIF_TIP;
+  // One that the task bar has already cannot be added: it took it and its answer was
+  // late, or it is still the old one. That is as good.
+  shown_ = notify(NIM_ADD, flags) || notify(NIM_MODIFY, flags);
+  // A timer of a window's own may have any number, and finds its way back by it.
+  const auto timer = reinterpret_cast<UINT_PTR>(this);
+  if (shown_) {
+    KillTimer(static_cast<HWND>(tray_window_), timer);
+  } else {
+    SetTimer(static_cast<HWND>(tray_window_), timer, kRetryInterval, &onSystemTimer);
+  }
+}
+
+void Win32Desktop::onTimer(std::uintptr_t timer) {
+  auto* const desktop = reinterpret_cast<Win32Desktop*>(timer);
+  if (desktop->wanted_) desktop->show();
+}
+
 void Win32Desktop::addTrayIcon(std::string_view tool_tip) {
   if (tray_window_ == nullptr) return;
-  shown_ = notify(NIM_ADD, tool_tip) || shown_;
+  tool_tip_ = tool_tip;
+  wanted_ = true;
+  show();
 }
 
 void Win32Desktop::changeTrayIcon(std::string_view tool_tip) {
-  if (shown_) notify(NIM_MODIFY, tool_tip);
+  if (!wanted_) return;
+  const UINT changed = tool_tip == tool_tip_ ? NIF_ICON : NIF_TIP;
+  tool_tip_ = tool_tip;
+  if (shown_) notify(NIM_MODIFY, changed);
 }
 
 void Win32Desktop::removeTrayIcon() {
-  if (!shown_) return;
-  notify(NIM_DELETE, {});
-  shown_ = false;
+  if (!wanted_) return;
+  KillTimer(static_cast<HWND>(tray_window_), reinterpret_cast<UINT_PTR>(this));
+  if (shown_) notify(NIM_DELETE, 0);
+  wanted_ = shown_ = false;
 }
 
 std::optional<std::string> Win32Desktop::chooseFile(std::string_view filter,

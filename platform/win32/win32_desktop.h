@@ -3,6 +3,8 @@
 // key is taken, no icon shown and no file chosen.
 #pragma once
 
+#include <string>
+
 #include "platform/desktop.h"
 
 namespace tavr::win32 {
@@ -18,25 +20,34 @@ class Win32Desktop : public Desktop {
   void setWindow(void* window) { window_ = window; }
   /// The window (HWND) that gets the mouse messages of the icon, as message 512
   /// with the mouse's own in lParam, and the picture (HICON). An icon that is
-  /// shown takes the picture with its next change.
+  /// shown takes the picture with its next change. The window hears of a new task
+  /// bar ("TaskbarCreated") in a program with higher rights than the task bar's, too.
   void setTray(void* window, void* icon);
 
   ScreenSize screen() override;
   bool registerHotKey(int id, std::uint32_t modifiers, std::uint32_t virtual_key) override;
   void unregisterHotKey(int id) override;
+  /// While the task bar does not take the icon, as it does not at first when a
+  /// user has just logged on, it is asked again once a second.
   void addTrayIcon(std::string_view tool_tip) override;
   void changeTrayIcon(std::string_view tool_tip) override;
   void removeTrayIcon() override;
   std::optional<std::string> chooseFile(std::string_view filter,
                                         std::string_view file_name) override;
 
+  /// Called by the timer of the system that asks the task bar again.
+  static void onTimer(std::uintptr_t timer);
+
  private:
-  bool notify(unsigned long operation, std::string_view tool_tip) const;
+  void show();
+  bool notify(unsigned long operation, unsigned flags) const;
 
   void* window_ = nullptr;
   void* tray_window_ = nullptr;
   void* icon_ = nullptr;
-  bool shown_ = false;
+  std::string tool_tip_;
+  bool wanted_ = false;  // the icon shall stand in the notification area
+  bool shown_ = false;   // and the task bar has taken it
 };
 
 }  // namespace tavr::win32

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/win32/wide.h"
+#include "platform/win32/win32_error.h"
 
 namespace tavr::win32 {
 
@@ -16,11 +17,6 @@ struct CloseSource {
   void operator()(HANDLE source) const { DeregisterEventSource(source); }
 };
 
-Status lastStatus() {
-  const DWORD error = GetLastError();
-  return error == ERROR_SUCCESS ? kInvalidHandle : error;
-}
-
 }  // namespace
 
 Status Win32EventLog::report(std::string_view server, std::string_view source, std::uint16_t type,
@@ -28,11 +24,12 @@ Status Win32EventLog::report(std::string_view server, std::string_view source, s
   const std::wstring machine = wide(server);
   const std::unique_ptr<HANDLE, CloseSource> log(
       RegisterEventSourceW(server.empty() ? nullptr : machine.c_str(), wide(source).c_str()));
-  if (!log) return lastStatus();
+  if (!log) return lastStatus(kInvalidHandle);
   const std::wstring message = wide(text);
   LPCWSTR strings[] = {message.c_str()};
-  return ReportEventW(log.get(), type, 0, event_id, nullptr, 1, 0, strings, nullptr) ? kSuccess
-                                                                                     : lastStatus();
+  return ReportEventW(log.get(), type, 0, event_id, nullptr, 1, 0, strings, nullptr)
+             ? kSuccess
+             : lastStatus(kInvalidHandle);
 }
 
 }  // namespace tavr::win32

@@ -3,18 +3,15 @@
 #include <windows.h>
 
 #include "platform/win32/security_descriptor.h"
-#include "platform/win32/win32_open_file.h"
 #include "platform/win32/win32_error.h"
+#include "platform/win32/win32_open_file.h"
 #include "platform/win32/win32_path.h"
 
 namespace tavr::win32 {
 
 namespace {
 
-constexpr DWORD kSettable = kAttrReadOnly | kAttrHidden | kAttrSystem;
-// What SetFileAttributes would clear when it is left out.
-constexpr DWORD kKept = FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_TEMPORARY | FILE_ATTRIBUTE_OFFLINE |
-                        FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+constexpr DWORD kSettable = kAttrReadOnly | kAttrHidden | kAttrSystem | kAttrArchive;
 
 }  // namespace
 
@@ -31,11 +28,9 @@ Status Win32Files::attributes(std::string_view path, std::uint32_t& out) {
 Status Win32Files::setAttributes(std::string_view path, std::uint32_t attributes) {
   const NativePath native(path);
   if (native.refused() != kSuccess) return native.refused();
-  const DWORD before = GetFileAttributesW(native.c_str());
-  if (before == INVALID_FILE_ATTRIBUTES) return lastFileStatus();
-  const DWORD after = (before & kKept) | (attributes & kSettable);
+  const DWORD given = attributes & kSettable;
   // 0 would change nothing at all; "normal" clears.
-  const DWORD bits = after == 0 ? DWORD{FILE_ATTRIBUTE_NORMAL} : after;
+  const DWORD bits = given == 0 ? DWORD{FILE_ATTRIBUTE_NORMAL} : given;
   return SetFileAttributesW(native.c_str(), bits) ? kSuccess : lastFileStatus();
 }
 

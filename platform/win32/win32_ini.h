@@ -1,4 +1,5 @@
-// INI files through the profile services of Windows themselves.
+// INI files through the profile services of Windows themselves, which get no path
+// that another operation on files would refuse.
 #pragma once
 
 #include "platform/ini.h"

@@ -31,7 +31,7 @@ struct Win32Machine::Services {
   Win32Clock clock;
   Win32Locale locale;
   Win32Events events;
-  Win32Dialogs dialogs;
+  Win32Dialogs dialogs{&events};
   Win32Environment environment;
   Win32Desktop desktop;
   Win32Accounts accounts;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/win32/wide.h"
+#include "platform/win32/win32_error.h"
 
 namespace tavr::win32 {
 
@@ -17,19 +18,22 @@ struct CloseMapping {
 };
 using MappingHandle = std::unique_ptr<HANDLE, CloseMapping>;
 
+struct Unmap {
+  void operator()(void* start) const { UnmapViewOfFile(start); }
+};
+using ViewStart = std::unique_ptr<void, Unmap>;
+
 class View final : public MappingView {
  public:
-  View(void* start, std::size_t size) : bytes_(static_cast<char*>(start), size) {}
-  ~View() override { UnmapViewOfFile(bytes_.data()); }
-  View(const View&) = delete;
-  View& operator=(const View&) = delete;
+  View(ViewStart start, std::size_t size) : start_(std::move(start)), size_(size) {}
 
-  std::span<char> bytes() override { return bytes_; }
-  std::uintptr_t address() override { return reinterpret_cast<std::uintptr_t>(bytes_.data()); }
-  Status flush() override { return FlushViewOfFile(bytes_.data(), 0) ? kSuccess : GetLastError(); }
+  std::span<char> bytes() override { return {static_cast<char*>(start_.get()), size_}; }
+  std::uintptr_t address() override { return reinterpret_cast<std::uintptr_t>(start_.get()); }
+  Status flush() override { return FlushViewOfFile(start_.get(), 0) ? kSuccess : lastStatus(); }
 
  private:
-  std::span<char> bytes_;
+  ViewStart start_;
+  std::size_t size_;
 };
 
 class Mapping final : public FileMapping {
@@ -37,9 +41,10 @@ class Mapping final : public FileMapping {
   explicit Mapping(MappingHandle handle) : handle_(std::move(handle)) {}
 
   std::unique_ptr<MappingView> map(std::uint32_t access, std::size_t size) override {
-    void* const start = MapViewOfFile(handle_.get(), access, 0, 0, size);
-    if (start == nullptr) return nullptr;
-    return std::make_unique<View>(start, size != 0 ? size : pagesAt(start));
+    ViewStart start(MapViewOfFile(handle_.get(), access, 0, 0, size));
+    if (!start) return nullptr;
+    const std::size_t bytes = size != 0 ? size : pagesAt(start.get());
+    return std::make_unique<View>(std::move(start), bytes);
   }
 
  private:

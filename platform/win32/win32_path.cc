@@ -5,7 +5,6 @@
 #include <string>
 
 #include "basic/text.h"
-#include "basic/utf.h"
 #include "platform/win32/program_file.h"
 #include "platform/win32/wide.h"
 #include "platform/win32/win32_error.h"
@@ -42,12 +41,15 @@ Status refusalOf(std::wstring_view path) {
 
 NativePath::NativePath(std::string_view text) {
   text = untilNul(text);
-  if (text.empty() || reaches(text, kMaxPath)) refused_ = kPathNotFound;
-  if (refused_ == kSuccess) {
-    const bool one_separator = (text[0] == '\\' || text[0] == '/') &&
-                               (text.size() == 1 || (text[1] != '\\' && text[1] != '/'));
-    if (one_separator) startAtProgramsDrive();
-    for (std::size_t pos = 0; pos < text.size();) add(nextCharacter(text, pos));
+  if (text.empty()) refused_ = kPathNotFound;
+  const auto separates = [text](std::size_t at) {
+    return at < text.size() && (text[at] == '\\' || text[at] == '/');
+  };
+  if (separates(0) && !separates(1)) startAtProgramsDrive();
+  const std::size_t start = length_;  // the drive is not counted
+  for (std::size_t pos = 0; pos < text.size() && refused_ == kSuccess;) {
+    add(nextWide(text, pos));
+    if (length_ - start >= kMaxPath) refused_ = kPathNotFound;
   }
   units_[length_] = L'\0';
   if (refused_ == kSuccess) refused_ = refusalOf(this->text());

@@ -29,8 +29,9 @@ class NativePath {
   void add(char32_t character);
   void startAtProgramsDrive();
 
-  // Two units more for the drive of a text that names none.
-  std::array<wchar_t, kMaxPath + 2> units_;
+  // More for the drive of a text that names none, the second half of a last pair
+  // beyond the limit, and the NUL behind it.
+  std::array<wchar_t, kMaxPath + 4> units_;
   std::size_t length_ = 0;
   Status refused_ = kSuccess;
 };

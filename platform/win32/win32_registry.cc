@@ -52,9 +52,16 @@ REGSAM withView(std::uint32_t access) {
   return (access & kBothViews) == 0 ? access | KEY_WOW64_32KEY : access;
 }
 
+struct CloseKey {
+  void operator()(HKEY key) const { RegCloseKey(key); }
+};
+
 OpenedKey opened(LSTATUS status, HKEY key, REGSAM mask) {
   if (status != ERROR_SUCCESS) return {static_cast<Status>(status), nullptr};
-  return {kSuccess, std::make_unique<Win32RegistryKey>(key, mask & kBothViews)};
+  std::unique_ptr<HKEY__, CloseKey> owned(key);
+  auto made = std::make_unique<Win32RegistryKey>(key, mask & kBothViews);
+  (void)owned.release();
+  return {kSuccess, std::move(made)};
 }
 
 }  // namespace

@@ -5,9 +5,9 @@
 #include <utility>
 
 #include "platform/win32/wide.h"
+#include "platform/win32/win32_error.h"
 #include "platform/win32/win32_files.h"
 #include "platform/win32/win32_name_pattern.h"
-#include "platform/win32/win32_error.h"
 #include "platform/win32/win32_path.h"
 
 namespace tavr::win32 {
@@ -182,7 +182,9 @@ Status Win32Files::subfolders(std::string_view folder, std::vector<std::string>&
     return folder.empty() ? kPathNotFound : all.refused();
   }
   Search search(all.c_str());
-  if (search.status() != kSuccess) return search.status();
+  if (search.status() != kSuccess) {
+    return search.status() == kDirectory ? kPathNotFound : search.status();
+  }
   do {
     addSubfolder(search, names);
   } while (search.next());

@@ -10,7 +10,9 @@
 
 #include "basic/text.h"
 #include "platform/win32/com.h"
+#include "platform/win32/system_library.h"
 #include "platform/win32/wide.h"
+#include "platform/win32/win32_error.h"
 
 // In shell32 and its import library, and in no header of MinGW-w64.
 extern "C" __declspec(dllimport) void __stdcall SHUpdateRecycleBinIcon();
@@ -20,27 +22,24 @@ namespace tavr::win32 {
 namespace {
 
 using HtmlHelpCall = HWND(WINAPI*)(HWND, LPCWSTR, UINT, DWORD_PTR);
+constexpr UINT kCloseAllHelp = 0x12;  // HH_CLOSE_ALL
 
 struct FreeTaskMemory {
   void operator()(void* memory) const { CoTaskMemFree(memory); }
 };
 
-Status shellStatus(HRESULT result) {
-  if (SUCCEEDED(result)) return kSuccess;
-  const auto code = static_cast<Status>(HRESULT_CODE(result));
-  return HRESULT_FACILITY(result) == FACILITY_WIN32 && code != 0 ? code : kInvalidParameter;
-}
-
-// A call that failed must not look like one that did not.
-Status lastStatus() {
-  const DWORD error = GetLastError();
-  return error == ERROR_SUCCESS ? kInvalidParameter : error;
-}
-
 // "help.chm::/page.htm>window" without page and window.
 std::string_view helpFile(std::string_view text) {
   text = text.substr(0, text.find("::"));
   return text.substr(0, text.find('>'));
+}
+
+// A program is looked for in the current directory, too, unless the environment
+// forbids it; a run moves that directory to folders where anybody writes, and what
+// is started gets the program's rights.
+void leaveOutCurrentDirectory() {
+  constexpr const wchar_t* kVariable = L"NoDefaultCurrentDirectoryInExePath";
+  if (GetEnvironmentVariableW(kVariable, nullptr, 0) == 0) SetEnvironmentVariableW(kVariable, L"1");
 }
 
 }  // namespace
@@ -49,7 +48,7 @@ Status Win32Shell::specialFolder(int id, std::string& buffer) {
   buffer.clear();
   LPITEMIDLIST list = nullptr;
   const HRESULT result = SHGetSpecialFolderLocation(nullptr, id, &list);
-  if (FAILED(result)) return shellStatus(result);
+  if (FAILED(result)) return resultStatus(result);
   const std::unique_ptr<ITEMIDLIST, FreeTaskMemory> owned(list);
   wchar_t path[MAX_PATH] = L"";
   if (!SHGetPathFromIDListW(list, path)) return kFileNotFound;
@@ -61,7 +60,7 @@ Status Win32Shell::specialFolder(int id, std::string& buffer) {
 Status Win32Shell::queryRecycleBin(std::int64_t& size, std::int64_t& items) {
   SHQUERYRBINFO bin{};
   bin.cbSize = sizeof(bin);
-  const Status status = shellStatus(SHQueryRecycleBinW(nullptr, &bin));
+  const Status status = resultStatus(SHQueryRecycleBinW(nullptr, &bin));
   size = bin.i64Size;
   items = bin.i64NumItems;
   return status;
@@ -71,7 +70,7 @@ Status Win32Shell::emptyRecycleBin(std::uint32_t flags) {
   const ComApartment apartment;  // extensions of the shell are COM objects
   const HRESULT result = SHEmptyRecycleBinW(nullptr, nullptr, flags);
   // What an empty bin answers.
-  return result == E_UNEXPECTED ? kSuccess : shellStatus(result);
+  return result == E_UNEXPECTED ? kSuccess : resultStatus(result);
 }
 
 void Win32Shell::updateRecycleBinIcon() { SHUpdateRecycleBinIcon(); }
@@ -94,6 +93,7 @@ Status Win32Shell::execute(std::string_view verb, std::string_view file, int sho
 Status Win32Shell::run(std::string_view command, int window_style) {
   std::wstring text = wide(Trim(command));  // the call writes into it
   if (text.empty()) return kFileNotFound;
+  leaveOutCurrentDirectory();
   STARTUPINFOW start{};
   start.cb = sizeof(start);
   start.dwFlags = STARTF_USESHOWWINDOW;
@@ -110,12 +110,20 @@ Status Win32Shell::run(std::string_view command, int window_style) {
   return kSuccess;
 }
 
+Win32Shell::~Win32Shell() {
+  if (html_help_ == nullptr) return;
+  // A help window that outlives the program's own would run into its end.
+  reinterpret_cast<HtmlHelpCall>(html_help_)(nullptr, nullptr, kCloseAllHelp, 0);
+}
+
 Status Win32Shell::loadHelp() {
   if (html_help_ != nullptr) return kSuccess;
-  const HMODULE control = LoadLibraryExW(L"hhctrl.ocx", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-  if (control == nullptr) return lastStatus();
-  html_help_ = reinterpret_cast<void*>(GetProcAddress(control, "HtmlHelpW"));
-  return html_help_ != nullptr ? kSuccess : lastStatus();
+  SystemLibrary control(L"hhctrl.ocx");
+  if (!control) return lastStatus();
+  html_help_ = control.find("HtmlHelpW");
+  if (html_help_ == nullptr) return lastStatus();
+  control.keep();
+  return kSuccess;
 }
 
 Status Win32Shell::htmlHelp(std::string_view file_and_window, std::uint32_t command,

@@ -8,6 +8,11 @@ namespace tavr::win32 {
 
 class Win32Shell : public Shell {
  public:
+  Win32Shell() = default;
+  ~Win32Shell() override;
+  Win32Shell(const Win32Shell&) = delete;
+  Win32Shell& operator=(const Win32Shell&) = delete;
+
   Status specialFolder(int id, std::string& buffer) override;
   Status queryRecycleBin(std::int64_t& size, std::int64_t& items) override;
   Status emptyRecycleBin(std::uint32_t flags) override;

@@ -40,8 +40,8 @@ std::unique_ptr<Win32StdRegProv> Win32StdRegProv::bind(WmiLocator& locator,
       !provider) {
     return nullptr;
   }
-  return std::unique_ptr<Win32StdRegProv>(new Win32StdRegProv(
-      std::move(context), std::move(services), std::move(provider), moniker.class_name));
+  return std::make_unique<Win32StdRegProv>(std::move(context), std::move(services),
+                                           std::move(provider), moniker.class_name);
 }
 
 ComPointer<IWbemClassObject> Win32StdRegProv::parameters(const wchar_t* method, std::uint32_t root,

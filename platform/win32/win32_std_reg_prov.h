@@ -11,6 +11,11 @@ class Win32StdRegProv final : public StdRegProv {
   /// Null: there is no class of this name, or WMI refuses.
   static std::unique_ptr<Win32StdRegProv> bind(WmiLocator& locator, const WmiMoniker& moniker);
 
+  /// The provider's class in a namespace that is connected; every call goes with the
+  /// context.
+  Win32StdRegProv(ComPointer<IWbemContext> context, ComPointer<IWbemServices> services,
+                  ComPointer<IWbemClassObject> provider, std::string_view class_name);
+
   Status getExpandedStringValue(std::uint32_t root, std::string_view key, std::string_view name,
                                 std::string& out) override;
   Status getMultiStringValue(std::uint32_t root, std::string_view key, std::string_view name,
@@ -20,9 +25,6 @@ class Win32StdRegProv final : public StdRegProv {
   Status createKey(std::uint32_t root, std::string_view key) override;
 
  private:
-  Win32StdRegProv(ComPointer<IWbemContext> context, ComPointer<IWbemServices> services,
-                  ComPointer<IWbemClassObject> provider, std::string_view class_name);
-
   // The parameters of a method, root and key filled in. Null: no such method.
   ComPointer<IWbemClassObject> parameters(const wchar_t* method, std::uint32_t root,
                                           std::string_view key);

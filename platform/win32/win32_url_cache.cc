@@ -1,13 +1,12 @@
 #include "platform/win32/win32_url_cache.h"
 
-#include <windows.h>
-// Behind windows.h.
-#include <wininet.h>
-
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 #include "platform/win32/wide.h"
+#include "platform/win32/win32_error.h"
+#include "platform/win32/win_inet.h"
 
 namespace tavr::win32 {
 
@@ -57,42 +56,54 @@ void describe(EntryBuffer& buffer, CacheEntry& entry) {
 
 class Walk final : public CacheWalk {
  public:
-  Walk(HANDLE handle, EntryBuffer buffer) : handle_(handle), buffer_(std::move(buffer)) {}
-  ~Walk() override { FindCloseUrlCache(handle_); }
+  explicit Walk(std::shared_ptr<const WinInet> calls) : calls_(std::move(calls)) {}
+  ~Walk() override {
+    if (handle_ != nullptr) calls_->close(handle_);
+  }
   Walk(const Walk&) = delete;
   Walk& operator=(const Walk&) = delete;
 
-  bool next(CacheEntry& entry) override {
-    const bool found = fill(buffer_, [this](INTERNET_CACHE_ENTRY_INFOW* info, DWORD* size) {
-      return FindNextUrlCacheEntryW(handle_, info, size) != FALSE;
+  bool first(CacheEntry& entry) {
+    return take(entry, [this](INTERNET_CACHE_ENTRY_INFOW* info, DWORD* size) {
+      handle_ = calls_->findFirst(nullptr, info, size);
+      return handle_ != nullptr;
     });
-    if (found) describe(buffer_, entry);
-    return found;
+  }
+  bool next(CacheEntry& entry) override {
+    return take(entry, [this](INTERNET_CACHE_ENTRY_INFOW* info, DWORD* size) {
+      return calls_->findNext(handle_, info, size) != FALSE;
+    });
   }
 
  private:
-  HANDLE handle_;
+  template <typename Ask>
+  bool take(CacheEntry& entry, const Ask& ask) {
+    if (!fill(buffer_, ask)) return false;
+    describe(buffer_, entry);
+    return true;
+  }
+
+  const std::shared_ptr<const WinInet> calls_;
+  HANDLE handle_ = nullptr;
   EntryBuffer buffer_;
 };
 
 }  // namespace
 
+const WinInet& Win32UrlCache::calls() {
+  if (!calls_) calls_ = std::make_shared<WinInet>();
+  return *calls_;
+}
+
 std::unique_ptr<CacheWalk> Win32UrlCache::findFirst(CacheEntry& entry) {
-  EntryBuffer buffer;
-  HANDLE handle = nullptr;
-  const bool found = fill(buffer, [&handle](INTERNET_CACHE_ENTRY_INFOW* info, DWORD* size) {
-    handle = FindFirstUrlCacheEntryW(nullptr, info, size);
-    return handle != nullptr;
-  });
-  if (!found) return nullptr;
-  describe(buffer, entry);
-  return std::make_unique<Walk>(handle, std::move(buffer));
+  if (!calls()) return nullptr;
+  auto walk = std::make_unique<Walk>(calls_);
+  return walk->first(entry) ? std::move(walk) : nullptr;
 }
 
 Status Win32UrlCache::remove(std::string_view url) {
-  if (DeleteUrlCacheEntryW(wide(url).c_str())) return kSuccess;
-  const DWORD error = GetLastError();
-  return error == ERROR_SUCCESS ? kFileNotFound : error;
+  if (!calls()) return kFileNotFound;
+  return calls_->remove(wide(url).c_str()) ? kSuccess : lastStatus(kFileNotFound);
 }
 
 }  // namespace tavr::win32

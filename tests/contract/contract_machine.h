@@ -69,6 +69,8 @@ class ContractMachine {
   /// A file in the recycle bin, with what the system keeps beside it.
   virtual void plantRecycled(std::string_view contents, bool read_only) = 0;
   virtual void setVariable(std::string_view name, std::string_view text) = 0;
+  /// The variable SystemRoot, in every process of the machine.
+  virtual void haveSystemRoot() { setVariable("SystemRoot", "C:\\Windows"); }
   virtual void openParentWindow(std::string_view title) = 0;
   /// The texts that the parent window has read from the addresses sent to it.
   virtual std::vector<std::string> parentTexts() = 0;

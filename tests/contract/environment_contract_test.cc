@@ -68,5 +68,12 @@ TEST_F(EnvironmentContract, TheProgramsNameHasNeitherFolderNorExtension) {
   EXPECT_EQ(name.find_first_of("\\./:"), std::string::npos);
 }
 
+TEST_F(EnvironmentContract, ALongTextIsWhole) {
+  const std::string text(3000, 'x');
+  on().setVariable("TavrContract", text);
+  EXPECT_EQ(machine().environment.get("TavrContract"), text);
+  EXPECT_EQ(expand("a %TavrContract% b"), "a " + text + " b");
+}
+
 }  // namespace
 }  // namespace tavr::contract

@@ -180,5 +180,32 @@ TEST_F(ListFolderContract, EachOfItsTwoTextsCountsByItself) {
   EXPECT_THAT(listed(folder + "\\", "*.*").files, IsEmpty());
 }
 
+TEST_F(FilesSearchContract, AFileInAFoldersPlaceIs267AndHasNoSubfolders) {
+  const std::string path = file("a");
+  EXPECT_EQ(findStatus(path + "\\*.*"), kDirectory);
+  FoundFile first;
+  EXPECT_EQ(files().findFirst(path + "\\*.*", first), kDirectory);
+  std::vector<std::string> names{"left over"};
+  EXPECT_EQ(files().subfolders(path, names), kPathNotFound);
+  EXPECT_TRUE(names.empty());
+}
+
+TEST_F(FilesSearchContract, AForwardSlashSeparatesToo) {
+  on().plantFile(at("sub\\a.txt"), "x");
+  std::string path = at("sub\\*.txt");
+  std::replace(path.begin(), path.end(), '\\', '/');
+  FoundFile first;
+  EXPECT_EQ(files().findFirst(path, first), kSuccess);
+  EXPECT_EQ(first.name, "a.txt");
+  EXPECT_EQ(attributesStatus(path.substr(0, path.rfind('/'))), kSuccess);
+}
+
+TEST_F(ListFolderContract, AHiddenFolderIsListedLikeAnother) {
+  on().plantFolder(at("in\\hidden"));
+  on().makeHidden(at("in\\hidden"));
+  on().plantFolder(at("in\\plain"));
+  EXPECT_THAT(listed(at("in\\"), "*.*").subfolders, ElementsAre("hidden", "plain"));
+}
+
 }  // namespace
 }  // namespace tavr::contract

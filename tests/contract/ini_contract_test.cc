@@ -148,5 +148,75 @@ TEST_F(IniContract, AHeldFileIsNeitherReadNorWritten) {
   EXPECT_EQ(text(), "[s]\r\nk=1\r\n");
 }
 
+// Turkish, Japanese and Arabic, as the files of languages are written.
+constexpr std::string_view kTexts[] = {"\u00dc\u011f\u0131\u015f\u00e7 \u0130zleri sil",
+                                       "\u5c65\u6b74\u3092\u6d88\u53bb",
+                                       "\u0645\u0633\u062d \u0627\u0644\u0622\u062b\u0627\u0631"};
+
+TEST_F(IniContract, TextBeyondAsciiIsReadAsUtf8) {
+  for (const std::string_view text : kTexts) {
+    plant("[s]\r\nk=" + std::string(text) + "\r\nother=1\r\n");
+    EXPECT_EQ(get("s", "k"), text);
+    EXPECT_EQ(section("s"), "k=" + std::string(text) + "\0other=1\0\0"s);
+  }
+}
+
+TEST_F(IniContract, SectionsAndKeysBeyondAsciiAreFound) {
+  for (const std::string_view text : kTexts) {
+    plant("[" + std::string(text) + "]\r\n" + std::string(text) + "=5\r\n");
+    EXPECT_EQ(get(text, text), "5");
+    EXPECT_EQ(machine().ini.getInt(text, text, 77, at("a.ini")), 5);
+    EXPECT_EQ(section(text), std::string(text) + "=5\0\0"s);
+    EXPECT_EQ(get(text, "k"), "fallback");
+  }
+}
+
+TEST_F(IniContract, TextBeyondAsciiIsWrittenAsUtf8) {
+  for (const std::string_view text : kTexts) {
+    plant("[first]\r\na=1\r\n");
+    EXPECT_EQ(write(text, text, text), kSuccess);
+    const std::string name(text);
+    EXPECT_NE(this->text().find("[" + name + "]\r\n" + name + "=" + name + "\r\n"),
+              std::string::npos)
+        << this->text();
+    EXPECT_EQ(get(text, text), text);
+    EXPECT_EQ(write(text, text, "other"), kSuccess);
+    EXPECT_EQ(section(text), name + "=other\0\0"s) << "replaced, not added";
+  }
+}
+
+TEST_F(IniContract, ABufferCountsCharactersWhateverTheirBytes) {
+  plant("[s]\r\nk=" + std::string(kTexts[1]) + "\r\n");
+  EXPECT_EQ(get("s", "k", "", 7), kTexts[1]);
+  EXPECT_EQ(get("s", "k", "", 4), kTexts[1].substr(0, 9));
+}
+
+TEST_F(IniContract, ALongValueIsCutToItsBufferAlone) {
+  const std::string value(3000, 'x');
+  plant("[s]\r\nk=" + value + "\r\n");
+  EXPECT_EQ(get("s", "k", "", 255), value.substr(0, 254));
+  EXPECT_EQ(get("s", "k", "", 4000), value);
+}
+
+TEST_F(IniContract, APathThatIsNoFilesIsNoIniFileEither) {
+  plant("[s]\r\nk=1\r\n");
+  const std::string long_path = at(std::string(260, 'n'));
+  for (const std::string& path : {long_path, at("a.ini:stream"), "\\\\?\\" + at("a.ini")}) {
+    EXPECT_EQ(machine().ini.getString("s", "k", "fallback ", kRoom, path), "fallback") << path;
+    EXPECT_EQ(machine().ini.getInt("s", "k", 77, path), 77) << path;
+    EXPECT_EQ(machine().ini.getSection("s", kRoom, path), "") << path;
+  }
+  EXPECT_EQ(machine().ini.writeString("s", "k", "2", long_path), kPathNotFound);
+  EXPECT_EQ(machine().ini.writeString("s", "k", "2", "\\\\?\\" + at("a.ini")), kPathNotFound);
+  EXPECT_EQ(machine().ini.writeString("s", "k", "2", at("a.ini:stream")), kInvalidName);
+  EXPECT_EQ(text(), "[s]\r\nk=1\r\n");
+}
+
+TEST_F(IniContract, ALeadingBackslashIsTheDriveOfTheProgram) {
+  plant("[s]\r\nk=1\r\n");
+  ASSERT_EQ(at().substr(0, 2), machine().environment.appPath().substr(0, 2));
+  EXPECT_EQ(machine().ini.getString("s", "k", "", kRoom, at("a.ini").substr(2)), "1");
+}
+
 }  // namespace
 }  // namespace tavr::contract

@@ -33,6 +33,12 @@ TEST_F(ParentLinkContract, AWindowIsFoundByExactlyItsTitle) {
   EXPECT_EQ(link().findWindow("Tavr Contract Parents"), 0U);
 }
 
+TEST_F(ParentLinkContract, ATitleInAnotherCaseIsAnother) {
+  on().openParentWindow("TAVR contract parent");
+  EXPECT_EQ(link().findWindow(kTitle), 0U);
+  EXPECT_NE(link().findWindow("TAVR contract parent"), 0U);
+}
+
 TEST_F(ParentLinkContract, WithoutTheWindowNothingIsFound) {
   EXPECT_EQ(link().findWindow(kTitle), 0U);
 }

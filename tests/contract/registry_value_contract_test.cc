@@ -162,5 +162,38 @@ TEST_F(RegistryValueContract, AnEmptyKeyHasNoValues) {
   EXPECT_THAT(values(), IsEmpty());
 }
 
+TEST_F(RegistryValueContract, LongDataAreReadWholeAndEnumerateWithTheirSize) {
+  const std::string text(3000, 't');
+  const std::string bytes(5000, 'b');
+  const OpenedKey key = create();
+  ASSERT_EQ(key.status, kSuccess);
+  ASSERT_EQ(key.key->setValue("a text", kRegSz, text), kSuccess);
+  ASSERT_EQ(key.key->setValue("b bytes", kRegBinary, bytes), kSuccess);
+  RegistryData data;
+  ASSERT_EQ(key.key->queryValue("a text", 4000, data), kSuccess);
+  EXPECT_EQ(data.size, 3001U);
+  EXPECT_EQ(data.data, text + '\0');
+  ASSERT_EQ(key.key->queryValue("b bytes", 5000, data), kSuccess);
+  EXPECT_EQ(data.data, bytes);
+  EXPECT_EQ(key.key->queryValue("b bytes", 4999, data), kMoreData);
+  std::string name;
+  std::uint32_t type = 0;
+  std::uint32_t size = 0;
+  ASSERT_EQ(key.key->enumValue(0, name, type, size), kSuccess);
+  EXPECT_EQ(size, 3001U);
+  ASSERT_EQ(key.key->enumValue(1, name, type, size), kSuccess);
+  EXPECT_EQ(size, 5000U);
+}
+
+TEST_F(RegistryValueContract, ALongNameIsFoundEnumeratedAndDeleted) {
+  const std::string long_name(5000, 'n');
+  ASSERT_EQ(create().key->setValue(long_name, kRegSz, "x"), kSuccess);
+  EXPECT_THAT(values(), ElementsAre(long_name));
+  RegistryData data;
+  EXPECT_EQ(open(kAll).key->queryValue(long_name, 8, data), kSuccess);
+  EXPECT_EQ(open(kAll).key->deleteValue(long_name), kSuccess);
+  EXPECT_THAT(values(), IsEmpty());
+}
+
 }  // namespace
 }  // namespace tavr::contract

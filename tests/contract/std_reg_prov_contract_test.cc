@@ -52,14 +52,17 @@ TEST_F(StdRegProvContract, AnotherMonikerBindsNothing) {
 }
 
 TEST_F(StdRegProvContract, BothKindsOfTextAreReadWithReferencesExpanded) {
-  on().setVariable("TavrContract", "expanded");
-  plant("plain", kRegSz, utf16("a %TavrContract%\0"s));
-  plant("expand", kRegExpandSz, utf16("b %TavrContract%"));
+  on().haveSystemRoot();
+  // A variable of the system: the provider runs in a process of its own.
+  const std::string value = machine().environment.get("SystemRoot");
+  ASSERT_NE(value, "");
+  plant("plain", kRegSz, utf16("a %SystemRoot%\0"s));
+  plant("expand", kRegExpandSz, utf16("b %SystemRoot%"));
   std::string text;
   EXPECT_EQ(provider().getExpandedStringValue(kUser, key(), "plain", text), kSuccess);
-  EXPECT_EQ(text, "a expanded");
+  EXPECT_EQ(text, "a " + value);
   EXPECT_EQ(provider().getExpandedStringValue(kUser, key(), "expand", text), kSuccess);
-  EXPECT_EQ(text, "b expanded");
+  EXPECT_EQ(text, "b " + value);
 }
 
 TEST_F(StdRegProvContract, ALongTextIsReadWhole) {

@@ -123,5 +123,17 @@ TEST_F(UrlCacheContract, AWalkGoesOnWhileItsEntriesAreRemoved) {
   EXPECT_THAT(urls(), IsEmpty());
 }
 
+TEST_F(UrlCacheContract, ALongAddressIsWhole) {
+  const std::string url = "http://tavr.example/" + std::string(1500, 'a');
+  const std::string file = on().plantCacheFile(url, "a.txt");
+  on().plantCacheEntry(kNormalEntry, url, file);
+  CacheEntry entry;
+  ASSERT_NE(machine().url_cache.findFirst(entry), nullptr);
+  EXPECT_EQ(entry.url, url);
+  EXPECT_EQ(entry.local_file, file);
+  EXPECT_EQ(machine().url_cache.remove(url), kSuccess);
+  EXPECT_EQ(machine().url_cache.findFirst(entry), nullptr);
+}
+
 }  // namespace
 }  // namespace tavr::contract

@@ -43,6 +43,7 @@ class Win32ContractMachine final : public ContractMachine {
                        std::string_view local_file) override;
   void plantRecycled(std::string_view contents, bool read_only) override;
   void setVariable(std::string_view name, std::string_view text) override;
+  void haveSystemRoot() override {}  // it is there
   void openParentWindow(std::string_view title) override;
   std::vector<std::string> parentTexts() override;
   void useRealClock() override {}  // it is one

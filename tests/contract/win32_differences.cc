@@ -26,6 +26,8 @@ constexpr Difference kDifferences[] = {
      "Wine finds no path there for GetFileAttributes: error 3"},
     {"FilesContract.SettingAttributesSetsAndClears",
      "Wine cannot hide a file that it has just made read-only"},
+    {"FilesSearchContract.AFileInAFoldersPlaceIs267AndHasNoSubfolders",
+     "Wine finds an invalid name there: error 123"},
     {"IniContract.ACommentIsNoKey", "Wine finds the key \";k\" in a comment"},
     {"IniContract.WritingKeepsEveryOtherLine", "Wine drops blank lines as it writes"},
     {"ProcessesContract.AQueryThatCannotBeReadFails",

@@ -5,6 +5,7 @@
 #include <shellapi.h>
 #include <wininet.h>
 
+#include <memory>
 #include <stdexcept>
 #include <vector>
 
@@ -18,6 +19,10 @@ namespace {
 
 using win32::narrow;
 using win32::wide;
+
+struct CloseAny {
+  void operator()(void* handle) const { CloseHandle(handle); }
+};
 
 std::wstring ownFolder() {
   std::wstring path(MAX_PATH, L'\0');
@@ -70,7 +75,8 @@ RunningProcess startSleeper(const std::string& image_path) {
   const std::wstring image = wide(image_path);
   CopyFileW((ownFolder() + L"sleeper.exe").c_str(), image.c_str(), TRUE);  // or it is there
   const std::string event_name = "TavrSleeper." + std::to_string(GetCurrentProcessId());
-  const HANDLE running = CreateEventA(nullptr, FALSE, FALSE, event_name.c_str());
+  const std::unique_ptr<void, CloseAny> running(
+      CreateEventA(nullptr, FALSE, FALSE, event_name.c_str()));
   std::wstring command = L"\"" + image + L"\" " + wide(event_name);
   STARTUPINFOW startup = {};
   startup.cb = sizeof(startup);
@@ -79,8 +85,7 @@ RunningProcess startSleeper(const std::string& image_path) {
                          nullptr, &startup, &process),
           image_path);
   CloseHandle(process.hThread);
-  const DWORD waited = WaitForSingleObject(running, kTimeToStart);
-  CloseHandle(running);
+  const DWORD waited = WaitForSingleObject(running.get(), kTimeToStart);
   require(waited == WAIT_OBJECT_0, image_path);
   return {process.dwProcessId, process.hProcess};
 }

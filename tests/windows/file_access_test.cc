@@ -25,7 +25,7 @@ class FileAccess : public ContractTest {
   std::vector<Entry> list(const std::string& path) {
     SecurityDescriptor found;
     EXPECT_EQ(machine().files.security(path, found), kSuccess) << path;
-    return entriesOf(found);
+    return entriesOf(found, kFileRights);
   }
   // Of the user's entries in the list.
   std::vector<int> userFlags(const std::string& path) {
@@ -36,7 +36,7 @@ class FileAccess : public ContractTest {
     return flags;
   }
 
-  static constexpr std::uint32_t kMask = 0x1F01FF;  // FILE_ALL_ACCESS
+  static constexpr std::uint32_t kMask = 0x10000000;  // GENERIC_ALL, as the program grants it
 };
 
 TEST_F(FileAccess, TheUserHasOneEntryForAFile) {
@@ -49,6 +49,14 @@ TEST_F(FileAccess, TheUserHasTwoEntriesForAFolder) {
   on().plantFolder(at("sub"));
   grant(at("sub"));
   EXPECT_THAT(userFlags(at("sub")), ElementsAre(kObjectInherit | kInheritOnly, kContainerInherit));
+}
+
+TEST_F(FileAccess, TheUsersEntryHoldsAllRightsOfAFile) {
+  const std::string path = file("a");
+  grant(path);
+  const std::vector<Entry> entries = list(path);
+  ASSERT_FALSE(entries.empty());
+  EXPECT_EQ(entries.back(), (Entry{kAceAllowed, 0, userSid(), FILE_ALL_ACCESS}));
 }
 
 TEST_F(FileAccess, ALaterGrantLeavesTheListAsItIs) {

@@ -1,4 +1,5 @@
 // services/access.h on keys whose lists Windows itself keeps.
+#include <algorithm>
 #include <vector>
 
 #include "platform/win32/wide.h"
@@ -41,17 +42,26 @@ class KeyAccess : public RegistryContractTest {
     EXPECT_EQ(opened.key->security(found), kSuccess);
     return found;
   }
-  std::vector<Entry> list() { return entriesOf(descriptor()); }
+  std::vector<Entry> list() { return entriesOf(descriptor(), kKeyRights); }
 
+  void plant(const SecurityDescriptor& planted) {
+    ASSERT_EQ(create().status, kSuccess);
+    ASSERT_EQ(open(kMayChangeLists).key->setSecurity(planted), kSuccess);
+  }
   // One entry of the key's own, two that it inherited.
   void plantList(std::uint16_t control) {
     AccessList planted(std::size_t{512});
     planted.add(AccessEntry(kAceAllowed, 0, KEY_ALL_ACCESS, administrators_));
     planted.add(AccessEntry(kAceAllowed, kInherited, KEY_ALL_ACCESS, userSid()));
     planted.add(AccessEntry(kAceAllowed, kInherited, KEY_ALL_ACCESS, system_));
-    ASSERT_EQ(create().status, kSuccess);
-    ASSERT_EQ(open(kMayChangeLists).key->setSecurity({control, planted.bytes()}), kSuccess);
+    plant({control, planted.bytes()});
   }
+  // What a grant asks for, in the order in which it stands.
+  Entry denial() {
+    return {kAceDenied, kContainerInherit | kInheritOnly, userSid(), KEY_ALL_ACCESS};
+  }
+  Entry everyones() { return {kAceAllowed, kContainerInherit, everyoneSid(), KEY_ALL_ACCESS}; }
+  Entry users() { return {kAceAllowed, 0, userSid(), mapped(0xE0010000, kKeyRights)}; }
 
   const std::string administrators_ = wellKnown(WinBuiltinAdministratorsSid);
   const std::string system_ = wellKnown(WinLocalSystemSid);
@@ -60,12 +70,52 @@ class KeyAccess : public RegistryContractTest {
 TEST_F(KeyAccess, DenialsComeFirstAndInheritedEntriesStayBehind) {
   plantList(0);
   EXPECT_TRUE(grant());
-  EXPECT_THAT(list(), ElementsAre(Entry{kAceDenied, kContainerInherit | kInheritOnly, userSid()},
-                                  Entry{kAceAllowed, 0, administrators_},
-                                  Entry{kAceAllowed, kContainerInherit, everyoneSid()},
-                                  Entry{kAceAllowed, 0, userSid()},
-                                  Entry{kAceAllowed, kInherited, userSid()},
-                                  Entry{kAceAllowed, kInherited, system_}));
+  EXPECT_THAT(list(), ElementsAre(denial(), Entry{kAceAllowed, 0, administrators_, KEY_ALL_ACCESS},
+                                  everyones(), users(),
+                                  Entry{kAceAllowed, kInherited, userSid(), KEY_ALL_ACCESS},
+                                  Entry{kAceAllowed, kInherited, system_, KEY_ALL_ACCESS}));
+}
+
+TEST_F(KeyAccess, AKeyWithoutAListGetsTheRequestAlone) {
+  plant({});
+  ASSERT_EQ(descriptor().dacl, std::nullopt);
+  EXPECT_TRUE(grant());
+  EXPECT_THAT(list(), ElementsAre(denial(), everyones(), users()));
+}
+
+TEST_F(KeyAccess, AnEntryWithBytesBehindItsAccountIsTheAccounts) {
+  const std::string tail(4, '\0');
+  AccessList planted(std::size_t{512});
+  planted.add(AccessEntry(kAceAllowed, 0, KEY_READ, userSid() + tail));
+  planted.add(AccessEntry(kAceAllowed, 0, KEY_ALL_ACCESS, administrators_ + tail));
+  plant({0, planted.bytes()});
+  EXPECT_TRUE(grant());
+  EXPECT_THAT(list(), ElementsAre(denial(), Entry{kAceAllowed, 0, administrators_, KEY_ALL_ACCESS},
+                                  everyones(), users()));
+}
+
+TEST_F(KeyAccess, ALongListIsReadAndWrittenWhole) {
+  constexpr int kEntries = 60;  // of 36 bytes
+  AccessList planted(std::size_t{4096});
+  planted.add(AccessEntry(kAceAllowed, 0, KEY_ALL_ACCESS, administrators_));
+  for (char i = 0; i < kEntries; ++i) {
+    const std::string domain("\1\5\0\0\0\0\0\5\x15\0\0\0\1\0\0\0\2\0\0\0\3\0\0\0", 24);
+    planted.add(AccessEntry(kAceAllowed, 0, KEY_READ, domain + i + std::string("\4\0\0", 3)));
+  }
+  plant({0, planted.bytes()});
+  const std::vector<Entry> before = list();
+  ASSERT_EQ(before.size(), kEntries + 1U);
+  EXPECT_TRUE(grant());
+  const std::vector<Entry> after = list();
+  ASSERT_EQ(after.size(), before.size() + 3);
+  EXPECT_TRUE(std::equal(before.begin(), before.end(), after.begin() + 1)) << "as it stood";
+}
+
+TEST_F(KeyAccess, AListThatWasInheritedByItselfKeepsThatMark) {
+  plantList(kDaclAutoInheritRequired | kDaclAutoInherited);
+  ASSERT_EQ(descriptor().control & kDaclAutoInherited, kDaclAutoInherited);
+  EXPECT_TRUE(grant());
+  EXPECT_EQ(descriptor().control & kDaclAutoInherited, kDaclAutoInherited);
 }
 
 TEST_F(KeyAccess, ALaterGrantLeavesTheListAsItIs) {

@@ -9,5 +9,5 @@ add_executable(planter ${folder}/planter.cc ${folder}/box_answers.cc ${folder}/c
                ${folder}/parent_window.cc ${folder}/registry_export.cc
                ${folder}/../contract/win32_planting.cc
                ${folder}/../contract/win32_differences.cc ${folder}/../contract/win32_scratch.cc)
-target_link_libraries(planter PRIVATE tavr_win32)
+target_link_libraries(planter PRIVATE tavr_win32 wininet)
 add_dependencies(planter sleeper)

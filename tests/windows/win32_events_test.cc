@@ -13,6 +13,7 @@
 
 #include "platform/win32/win32_clock.h"
 #include "platform/win32/win32_dialogs.h"
+#include "platform/win32/win32_machine.h"
 #include "tests/contract/win32_parent_window.h"
 
 namespace tavr::win32 {
@@ -123,6 +124,19 @@ TEST_F(Win32EventsTest, AHandlerThatThrowsClosesTheMessageBox) {
       events_.startTimer(5 * kInterval, [] { throw std::runtime_error("from the handler"); });
   EXPECT_THROW(dialogs.messageBox("A question?", MB_YESNO, ""), std::runtime_error);
   events_.stopTimer(timer);
+}
+
+TEST(Win32MachineTest, TimersTickInAMessageBoxAndAnExceptionClosesIt) {
+  if (!contract::ParentWindow::possible()) GTEST_SKIP() << "no display";
+  Win32Machine on;
+  Machine& machine = on.machine();
+  int ticks = 0;
+  const TimerId timer = machine.events.startTimer(kInterval, [&ticks] {
+    if (++ticks == 3) throw std::runtime_error("from the handler");
+  });
+  EXPECT_THROW(machine.dialogs.messageBox("A question?", MB_YESNO, ""), std::runtime_error);
+  EXPECT_EQ(ticks, 3);
+  machine.events.stopTimer(timer);
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 #include "ui/win32/caption.h"
 
 #include <cmath>
+#include <map>
+#include <span>
 
 #include "basic/number.h"
 #include "platform/win32/wide.h"
@@ -16,26 +18,32 @@ constexpr double kUsualPoints = 9;
 constexpr const wchar_t* kFamilies[] = {L"Segoe UI",  L"Selawik",        L"Open Sans",
                                         L"Noto Sans", L"Tahoma",         L"DejaVu Sans",
                                         L"Arial",     L"Liberation Sans"};
+// For the letters that none of those has.
+constexpr const wchar_t* kChineseFamilies[] = {L"Microsoft YaHei UI", L"Noto Sans CJK SC"};
+constexpr const wchar_t* kJapaneseFamilies[] = {L"Yu Gothic UI", L"Meiryo UI", L"Noto Sans CJK JP"};
 
 int CALLBACK noteFamily(const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found) {
   *reinterpret_cast<bool*>(found) = true;
   return 0;
 }
 
-bool isInstalled(const std::wstring& family) {
+bool isInstalled(const std::wstring& family, int charset) {
   bool found = false;
   const HDC dc = CreateCompatibleDC(nullptr);
   LOGFONTW asked{};
-  asked.lfCharSet = DEFAULT_CHARSET;
+  asked.lfCharSet = static_cast<BYTE>(charset);
   family.copy(asked.lfFaceName, LF_FACESIZE - 1);
   EnumFontFamiliesExW(dc, &asked, &noteFamily, reinterpret_cast<LPARAM>(&found), 0);
   DeleteDC(dc);
   return found;
 }
 
-std::wstring nearestFamily() {
-  for (const wchar_t* family : kFamilies) {
-    if (isInstalled(family)) return family;
+std::wstring nearestFamily(int charset) {
+  std::span<const wchar_t* const> families = kFamilies;
+  if (charset == GB2312_CHARSET) families = kChineseFamilies;
+  if (charset == SHIFTJIS_CHARSET) families = kJapaneseFamilies;
+  for (const wchar_t* family : families) {
+    if (isInstalled(family, charset)) return family;
   }
   return kFamilies[0];
 }
@@ -46,7 +54,8 @@ HFONT makeFont(const ControlFont& font, double scale, bool bold, double larger) 
   return CreateFontW(height, 0, 0, 0, font.bold || bold ? FW_SEMIBOLD : FW_NORMAL,
                      font.italic ? TRUE : FALSE, font.underline ? TRUE : FALSE, FALSE,
                      static_cast<DWORD>(font.charset), OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
-                     CLEARTYPE_QUALITY, DEFAULT_PITCH, installedFamily(font.name).c_str());
+                     CLEARTYPE_QUALITY, DEFAULT_PITCH,
+                     installedFamily(font.name, font.charset).c_str());
 }
 
 // The system's own mark for the access key; a caption's "&" is a plain "and".
@@ -70,12 +79,14 @@ UINT drawFormat(const CaptionLook& look, const DrawnState& state) {
 
 }  // namespace
 
-std::wstring installedFamily(std::string_view name) {
+std::wstring installedFamily(std::string_view name, int charset) {
   std::wstring family = wide(name);
   // Only the forms' own face is looked for: any other was chosen by a person.
   if (family != kFamilies[0]) return family;
-  static const std::wstring nearest = nearestFamily();
-  return nearest;
+  static std::map<int, std::wstring> nearest;  // asked at every drawing
+  const auto [found, is_new] = nearest.try_emplace(charset);
+  if (is_new) found->second = nearestFamily(charset);
+  return found->second;
 }
 
 SelectedFont::SelectedFont(HDC dc, const ControlFont& font, double scale, bool bold, double larger)

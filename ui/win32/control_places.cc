@@ -13,10 +13,11 @@ namespace {
 constexpr int kSameRow = 6;       // px between the tops of a box and its label
 constexpr int kBesideLabel = 40;  // px between a box and the label that names it
 
-// Behind every designed number: the toolbar, then an open list.
+// The number of the button that opens it, which the design places first.
+constexpr int kListRowOrder = 20;
+// Behind every designed number: the signs, then the toolbar.
 constexpr int kToolbarOrder = 1000;
 constexpr int kSignOrder = 900;
-constexpr int kListRowOrder = 2000;
 
 bool within(const Box& box, int width, int height) {
   return box.left < width && box.top < height && box.left + box.width > 0 &&
@@ -43,7 +44,7 @@ int orderOf(const Form& form, const Control& control) {
   if (control.design.kind == ControlKind::kToolbarButton) {
     return isSeparator(control) ? -1 : kToolbarOrder + control.design.index;
   }
-  if (isListRow(control)) return kListRowOrder + control.design.index;
+  if (isListRow(control)) return kListRowOrder;
   return control.design.tab;
 }
 

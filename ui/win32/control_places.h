@@ -17,8 +17,8 @@ Control* holderOf(const Form& form, const Control& control);
 bool inSight(const Form& form, const Control& control);
 
 /// The controls in sight that take the keyboard, in the order of the Tab key,
-/// disabled ones included. Toolbar buttons and rows of an open list follow the
-/// designed ones.
+/// disabled ones included. Toolbar buttons follow the designed ones, the rows
+/// of an open list the button that opens it.
 std::vector<Control*> focusOrder(const Form& form);
 
 /// Toolbar buttons and list rows move the focus among themselves by the arrows,

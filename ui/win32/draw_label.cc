@@ -74,7 +74,7 @@ void drawFrame(HDC dc, const RECT& area, const Control& frame, const DrawnState&
 }
 
 void drawTitleStrip(HDC dc, const RECT& area, std::string_view title, const DrawnState& state,
-                    const Palette& palette) {
+                    const Palette& palette, const ControlFont& font) {
   if (IsRectEmpty(&area)) return;
   const ClippedTo within(dc, area);
   Canvas canvas(dc, area, state.scale);
@@ -91,6 +91,8 @@ void drawTitleStrip(HDC dc, const RECT& area, std::string_view title, const Draw
   drawIcon(dc, sign, "program", palette.strip_text, state.scale);
   Control caption;
   caption.caption = title;
+  caption.font.name = font.name;
+  caption.font.charset = font.charset;
   drawCaption(dc, text, caption, {palette.strip_text, Side::kStart, true, kTitleSize}, state);
 }
 

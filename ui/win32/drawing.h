@@ -94,9 +94,10 @@ void drawFrame(HDC dc, const RECT& area, const Control& frame, const DrawnState&
 /// Five looks, by style and progressLook.
 void drawProgressBar(HDC dc, const RECT& area, const ProgressBar& bar, const DrawnState& state,
                      const Palette& palette);
-/// The ground of the strip and the title on it, behind the program's sign.
+/// The ground of the strip and the title on it, behind the program's sign. Of the
+/// font only the face and the character set are taken.
 void drawTitleStrip(HDC dc, const RECT& area, std::string_view title, const DrawnState& state,
-                    const Palette& palette);
+                    const Palette& palette, const ControlFont& font = {});
 
 /// What the caption takes on one line in the control's font.
 SIZE captionSize(HDC dc, const Control& control, double scale, bool bold = false);
@@ -110,7 +111,7 @@ int labelHeight(HDC dc, const Control& label, int width, bool heading, bool larg
                 double scale);
 
 /// The family that is drawn for a font's name: the name itself where it is
-/// installed, else the nearest that is.
-std::wstring installedFamily(std::string_view name);
+/// installed with the character set, else the nearest that is.
+std::wstring installedFamily(std::string_view name, int charset);
 
 }  // namespace tavr::win32

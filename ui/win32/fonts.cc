@@ -28,7 +28,7 @@ HFONT Fonts::get(const ControlFont& font, bool bold) {
     made = CreateFontW(height, 0, 0, 0, heavy ? FW_SEMIBOLD : FW_NORMAL, font.italic ? TRUE : FALSE,
                        font.underline ? TRUE : FALSE, FALSE, static_cast<DWORD>(font.charset),
                        OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, CLEARTYPE_QUALITY, DEFAULT_PITCH,
-                       installedFamily(font.name).c_str());
+                       installedFamily(font.name, font.charset).c_str());
   }
   return made;
 }

@@ -121,6 +121,16 @@ bool FormWindow::pressDefault() {
   return true;
 }
 
+// An open list closes as by the button that opened it.
+bool FormWindow::closeList() {
+  const Control* const list = form_.find("pictrlang");
+  Control* const opener = form_.find("chameleonButton12");
+  if (!list || !opener || !list->visible) return false;
+  if (const BoundControl* const bound = boundOf(*opener)) SetFocus(bound->window());
+  actions_.post(this, [opener] { opener->press(); });
+  return true;
+}
+
 bool FormWindow::serveKey(const MSG& message) {
   if (!IsWindowEnabled(window_)) return false;
   switch (message.message) {
@@ -133,6 +143,7 @@ bool FormWindow::serveKey(const MSG& message) {
         if (events_.close) actions_.post(this, events_.close);
         return true;
       }
+      if (message.wParam == VK_ESCAPE) return closeList();
       return message.wParam == VK_RETURN && pressDefault();
     case WM_SYSKEYDOWN:
       if (message.wParam == VK_MENU) showCues(true);

@@ -85,7 +85,9 @@ void FormWindow::paint(HDC dc) const {
   DrawnState state;
   state.right_to_left = right_to_left_;
   state.scale = scale();
-  drawTitleStrip(dc, {0, 0, px(width), px(strip)}, shown_title_, state, palette_);
+  const Control* const label = look.title_label.empty() ? nullptr : form_.find(look.title_label);
+  drawTitleStrip(dc, {0, 0, px(width), px(strip)}, shown_title_, state, palette_,
+                 label ? label->font : ControlFont());
   SetDCBrushColor(dc, palette_.border);
   const RECT edge{0, px(strip), px(width), px(height)};
   FrameRect(dc, &edge, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));

@@ -112,6 +112,7 @@ class FormWindow {
 
   bool serveAccessKey(WPARAM character);
   bool pressDefault();
+  bool closeList();
   void showCues(bool on);
 
   void paint(HDC dc) const;

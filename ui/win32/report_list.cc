@@ -18,7 +18,7 @@ constexpr int kSign = 16;      // px of an icon or a check box
 constexpr UINT kUnticked = 1;  // the numbers of a list's own check boxes
 constexpr UINT kTicked = 2;
 constexpr UINT_PTR kHeaderSubclass = 1;
-constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
+constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP;
 
 RECT centred(const RECT& area, int left, int size) {
   const int top = (area.top + area.bottom - size) / 2;
@@ -33,7 +33,9 @@ ReportList::ReportList(FormWindow& form, Control& control) : BoundControl(form, 
       WC_LISTVIEWW,
       LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOSORTHEADER | WS_BORDER,
       direction);
-  ListView_SetExtendedListViewStyle(window_, kExtendedStyle);
+  // The buffer of a mirrored list comes to the screen mirrored, letters and all.
+  const DWORD buffered = form.rightToLeft() ? 0 : LVS_EX_DOUBLEBUFFER;
+  ListView_SetExtendedListViewStyle(window_, kExtendedStyle | buffered);
   SetWindowSubclass(headerWindow(), &headerProcedure, kHeaderSubclass,
                     reinterpret_cast<DWORD_PTR>(this));
 }

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -178,13 +179,24 @@ TEST(FormLoad, ATaskTableThatCouldNotBeBuiltPresetsTheWindowsTracks) {
 }
 
 TEST(FormLoad, GrantsAccessToTheSelectionKeyInTheWiderView) {
+  // Read right behind the grant: later ones have results of their own.
+  const auto failedAtLoad = [](TestMachine& machine) {
+    Form1& form = machine.program().form;
+    std::optional<bool> failed;
+    const auto build_table = form.Text4.onChange;
+    form.Text4.onChange = [&] {
+      if (!failed) failed = form.grant_failed;
+      if (build_table) build_table();
+    };
+    machine.run("t");
+    form.Text4.onChange = build_table;
+    return failed;
+  };
   TestMachine with_key;
   with_key.key("HKEY_LOCAL_MACHINE\\SOFTWARE\\Tavrwork\\tavr wipe\\option\\win");
-  with_key.run("t");
-  EXPECT_FALSE(with_key.program().form.grant_failed);
+  EXPECT_EQ(failedAtLoad(with_key), false);
   TestMachine without_key;
-  without_key.run("t");
-  EXPECT_TRUE(without_key.program().form.grant_failed);
+  EXPECT_EQ(failedAtLoad(without_key), true);
 }
 
 TEST(FormLoad, WithoutWmiTheStripAndItsFourButtonsTakeTheDefaultColour) {

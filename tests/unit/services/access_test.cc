@@ -124,6 +124,15 @@ TEST(AccessList, ThatEndsWithinAnEntryLosesItAndWhatIsBehind) {
   EXPECT_TRUE(AccessList(bytes.substr(0, 7)).entries().empty());
 }
 
+// A condition, or what a careless program left, stands behind the account.
+TEST(AccessList, AnAccountEndsWhereItSaysSo) {
+  const AccessEntry entry(kAceAllowed, 0, kAll, kUser + "a condition ");
+  EXPECT_EQ(entry.sid(), kUser);
+  EXPECT_EQ(entry.bytes().size(), 8 + kUser.size() + 12);
+  EXPECT_EQ(AccessEntry(kAceAllowed, 0, kAll, kUser.substr(0, 10)).sid(), kUser.substr(0, 10))
+      << "one that ends too early";
+}
+
 TEST_F(AccessTest, AKeyGetsTheDenialFirstThenTheTwoThatAllow) {
   ASSERT_TRUE(grantKey());
   EXPECT_THAT(shown(keyList()),
@@ -279,6 +288,44 @@ TEST_F(AccessTest, AnUnknownAccountLeavesTheFileAsItIs) {
   files().lists["C:\\d\\a"].dacl = listOf({AccessEntry(kAceAllowed, 0, 3, kSystem)});
   GrantFileAccess(machine(), "nobody", "C:\\d\\a", kAll);
   EXPECT_EQ(files().written, 0);
+}
+
+TEST_F(AccessTest, AnEntryIsItsAccountsWhateverStandsBehindTheAccount) {
+  const AccessEntry with_tail(9, 0, 0x20019, kUser + "tail");
+  keyList().dacl = listOf({with_tail, AccessEntry(9, 0, 1, kOther + "tail")});
+  ASSERT_TRUE(grantKey());
+  EXPECT_THAT(shown(keyList()), ElementsAre("deny u 10 10000000", "allow o 0 1",
+                                            "allow * 2 10000000", "allow u 0 E0010000"));
+  EXPECT_EQ(AccessList(*keyList().dacl).entries()[1].bytes().substr(20), "tail");
+  files().lists["C:\\d\\a"].dacl = listOf({with_tail, AccessEntry(kAceAllowed, 0, 3, kSystem)});
+  grantFile("C:\\d\\a");
+  EXPECT_THAT(shown(files().lists["C:\\d\\a"]), ElementsAre("allow s 0 3", "allow u 0 10000000"));
+}
+
+// Unlike a key's, a file's entries of the user go whether inherited or not, and
+// those of everyone stay.
+TEST_F(AccessTest, AFileLosesInheritedEntriesOfTheUserAndKeepsThoseOfEveryone) {
+  files().lists["C:\\d\\a"].dacl = listOf({AccessEntry(kAceAllowed, 0, 1, everyoneSid()),
+                                           AccessEntry(kAceAllowed, kInherited, 2, kUser),
+                                           AccessEntry(kAceAllowed, kInherited, 3, kSystem)});
+  grantFile("C:\\d\\a");
+  EXPECT_THAT(shown(files().lists["C:\\d\\a"]),
+              ElementsAre("allow * 0 1", "allow s 16 3", "allow u 0 10000000"));
+}
+
+TEST_F(AccessTest, AFolderLosesItsOldEntriesOfTheUser) {
+  files().lists["C:\\d\\sub"].dacl =
+      listOf({AccessEntry(kAceAllowed, 9, 5, kUser), AccessEntry(kAceAllowed, 0, 3, kSystem),
+              AccessEntry(kAceAllowed, 2, 5, kUser)});
+  grantFile("C:\\d\\sub");
+  EXPECT_THAT(shown(files().lists["C:\\d\\sub"]),
+              ElementsAre("allow s 0 3", "allow u 9 10000000", "allow u 2 10000000"));
+}
+
+TEST_F(AccessTest, AKeyWithoutAListGetsTheRequestAlone) {
+  keyList().dacl = std::nullopt;
+  ASSERT_TRUE(grantKey());
+  EXPECT_EQ(keyList().dacl->size(), 8U + 3 * 20);
 }
 
 }  // namespace

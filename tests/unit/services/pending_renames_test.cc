@@ -211,5 +211,16 @@ TEST_F(PendingRenamesTest, WithoutWmiNothingIsShown) {
   EXPECT_EQ(form().Text16.text(), "|a");
 }
 
+TEST_F(PendingRenamesTest, ShowingAndSavingTellHowTheirGrantWent) {
+  deletion().pndtxt();
+  EXPECT_TRUE(form().grant_failed) << "there is no such key";
+  store({});
+  deletion().pndtxt();
+  EXPECT_FALSE(form().grant_failed);
+  form().grant_failed = true;
+  deletion().savepending();
+  EXPECT_FALSE(form().grant_failed);
+}
+
 }  // namespace
 }  // namespace tavr

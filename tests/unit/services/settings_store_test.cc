@@ -180,5 +180,22 @@ TEST_F(SettingsStoreTest, AFailedReadIsFalseAndEmpty) {
   EXPECT_EQ(read("key"), "A");
 }
 
+// The flag tells of the grant alone: the value is read and written all the same.
+TEST_F(SettingsStoreTest, EveryReadAndWriteTellsHowItsGrantWent) {
+  constexpr std::string_view kWider = "SOFTWARE\\Tavrwork\\Wider";
+  machine.value("HKEY_LOCAL_MACHINE\\" + std::string(kWider), "x", "1").value(kStored, "key", "A");
+  bool failed = false;
+  const RegistryLayer told(machine.machine(), List12, List20, Text2, &failed);
+  std::string text;
+  EXPECT_TRUE(told.fGetString(Root::kLocalMachine, settings::kMainKey, "key", text));
+  EXPECT_TRUE(failed) << "the key is in the 32-bit view alone";
+  EXPECT_FALSE(told.fGetString(Root::kLocalMachine, kWider, "x", text));
+  EXPECT_FALSE(failed) << "the key is in the 64-bit view alone";
+  EXPECT_TRUE(told.fSaveString(Root::kLocalMachine, settings::kMainKey, "key", "B"));
+  EXPECT_TRUE(failed);
+  told.fSaveString(Root::kLocalMachine, kWider, "x", "2");
+  EXPECT_FALSE(failed);
+}
+
 }  // namespace
 }  // namespace tavr

@@ -166,6 +166,30 @@ TEST(Keyboard, EscClosesADialogAndAnswersNo) {
   EXPECT_EQ(shown.program().message.state, "vbNo");
 }
 
+// Its button, and from there Tab, the arrows and Enter.
+TEST(Keyboard, ALanguageIsChosenByTheKeyboardAlone) {
+  ShownProgram shown;
+  SetFocus(shown.window("Form1", "chameleonButton12"));
+  press(shown, GetFocus(), VK_SPACE);
+  ASSERT_NE(shown.window("Form1", "lbllanguage(0)"), nullptr);
+  press(shown, GetFocus(), VK_TAB);
+  EXPECT_EQ(GetFocus(), shown.window("Form1", "lbllanguage(0)"));
+  press(shown, GetFocus(), VK_DOWN);
+  press(shown, GetFocus(), VK_RETURN);
+  EXPECT_EQ(shown.program().language.lang, "de");
+  EXPECT_EQ(shown.control("Form1", "cmd_start").caption, "Löschen");
+}
+
+TEST(Keyboard, EscClosesTheListOfLanguages) {
+  ShownProgram shown;
+  SetFocus(shown.window("Form1", "chameleonButton12"));
+  press(shown, GetFocus(), VK_SPACE);
+  press(shown, GetFocus(), VK_TAB);
+  press(shown, GetFocus(), VK_ESCAPE);
+  EXPECT_FALSE(shown.program().form.pictrlang.visible);
+  EXPECT_EQ(GetFocus(), shown.window("Form1", "chameleonButton12"));
+}
+
 TEST(Keyboard, TheHelpSignOfTheSettingsIsPressedBySpace) {
   ShownProgram shown;
   open(shown, {"Form2", "cmd_plugin"});

@@ -1,6 +1,7 @@
 #include "tests/windows/window/driven_program.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include "platform/win32/wide.h"
 
@@ -8,7 +9,8 @@ namespace tavr::testing {
 
 namespace {
 
-constexpr DWORD kLook = 20;  // ms between two looks
+constexpr DWORD kLook = 20;       // ms between two looks
+constexpr DWORD kPaintTime = 80;  // ms that a redraw may be behind
 constexpr DWORD kDriveC = 4;
 constexpr wchar_t kBoxClass[] = L"#32770";
 constexpr int kBoxText = 0xFFFF;
@@ -42,7 +44,7 @@ struct Search {
 };
 
 template <class Found>
-BOOL CALLBACK look(HWND window, LPARAM search) {
+BOOL CALLBACK lookAt(HWND window, LPARAM search) {
   auto& wanted = *reinterpret_cast<Search<Found>*>(search);
   DWORD process = 0;
   GetWindowThreadProcessId(window, &process);
@@ -54,14 +56,14 @@ BOOL CALLBACK look(HWND window, LPARAM search) {
 template <class Found>
 HWND topWindow(DWORD process, Found found) {
   Search<Found> search{process, found};
-  EnumWindows(&look<Found>, reinterpret_cast<LPARAM>(&search));
+  EnumWindows(&lookAt<Found>, reinterpret_cast<LPARAM>(&search));
   return search.window;
 }
 
 template <class Found>
 HWND childWindow(HWND parent, DWORD process, Found found) {
   Search<Found> search{process, found};
-  EnumChildWindows(parent, &look<Found>, reinterpret_cast<LPARAM>(&search));
+  EnumChildWindows(parent, &lookAt<Found>, reinterpret_cast<LPARAM>(&search));
   return search.window;
 }
 
@@ -163,8 +165,19 @@ bool DrivenProgram::enabled(std::string_view control) const {
 }
 
 std::vector<COLORREF> DrivenProgram::pixels(std::string_view control) const {
+  const HWND at = window(control);
+  std::vector<COLORREF> picture = look(at);
+  comes([&] {
+    Sleep(kPaintTime);
+    std::vector<COLORREF> before = std::exchange(picture, look(at));
+    return before == picture;
+  });
+  return picture;
+}
+
+std::vector<COLORREF> DrivenProgram::look(HWND window) const {
   RECT area;
-  GetWindowRect(window(control), &area);
+  GetWindowRect(window, &area);
   const int width = area.right - area.left;
   const int height = area.bottom - area.top;
   const HDC screen = GetDC(nullptr);
@@ -201,13 +214,14 @@ void DrivenProgram::hover(std::string_view control) const {
   movePointer(point);
 }
 
-HWND DrivenProgram::waitForBox() const {
+HWND DrivenProgram::waitForBox(std::uint32_t milliseconds) const {
   HWND box = nullptr;
-  comes([&] {
+  const auto is_there = [&] {
     box = topWindow(
         id_, [](HWND window) { return hasClass(window, kBoxClass) && IsWindowVisible(window); });
     return box != nullptr;
-  });
+  };
+  comes(is_there, milliseconds);
   return box;
 }
 

@@ -15,7 +15,7 @@
 
 namespace tavr::testing {
 
-inline constexpr std::uint32_t kPatience = 10000;  ///< ms that anything may take
+inline constexpr std::uint32_t kPatience = 5000;  ///< ms that anything may take
 
 /// Whether it comes to hold in the time.
 bool comes(const std::function<bool()>& what, std::uint32_t milliseconds = kPatience);
@@ -47,17 +47,18 @@ class DrivenProgram {
   std::string text(std::string_view control) const;
   bool checked(std::string_view control) const;
   bool enabled(std::string_view control) const;
-  /// What the screen shows of it.
+  /// What the screen shows of it, once it does not change any more.
   std::vector<COLORREF> pixels(std::string_view control) const;
 
   void click(std::string_view control) const;
   void hover(std::string_view control) const;
   /// The message box of Windows that is open; null: none came in time.
-  HWND waitForBox() const;
+  HWND waitForBox(std::uint32_t milliseconds = kPatience) const;
   static std::string textOfBox(HWND box);
   static void answer(HWND box, int button);
 
  private:
+  std::vector<COLORREF> look(HWND window) const;
   HWND find(std::string_view name) const;
 
   HANDLE process_ = nullptr;

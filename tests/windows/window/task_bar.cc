@@ -23,6 +23,16 @@ struct NotifyData {
 }  // namespace
 
 TaskBar::TaskBar() {
+  thread_ = std::thread([this] { serve(); });
+  made_.get_future().wait();
+}
+
+TaskBar::~TaskBar() {
+  PostMessageW(window_, WM_CLOSE, 0, 0);
+  thread_.join();
+}
+
+void TaskBar::serve() {
   WNDCLASSEXW window_class{};
   window_class.cbSize = sizeof(window_class);
   window_class.lpfnWndProc = &procedure;
@@ -34,12 +44,14 @@ TaskBar::TaskBar() {
   SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   // The first of its class is found: ahead of one that the system runs.
   SetWindowPos(window_, HWND_TOPMOST, 0, 0, 1, 1, SWP_NOACTIVATE);
+  made_.set_value();
+  MSG message;
+  while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
 }
-
-TaskBar::~TaskBar() { DestroyWindow(window_); }
 
 LRESULT CALLBACK TaskBar::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   auto* const bar = reinterpret_cast<TaskBar*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (message == WM_DESTROY) PostQuitMessage(0);
   if (bar == nullptr || message != WM_COPYDATA) {
     return DefWindowProcW(window, message, wparam, lparam);
   }
@@ -49,6 +61,7 @@ LRESULT CALLBACK TaskBar::procedure(HWND window, UINT message, WPARAM wparam, LP
 
 void TaskBar::take(const COPYDATASTRUCT& data) {
   if (data.cbData < sizeof(NotifyData)) return;
+  const std::scoped_lock lock(guard_);
   const auto& asked = *static_cast<const NotifyData*>(data.lpData);
   if (data.dwData == NIM_DELETE) return icon_.reset();
   if (!icon_) icon_.emplace();
@@ -58,35 +71,34 @@ void TaskBar::take(const COPYDATASTRUCT& data) {
   if ((asked.flags & NIF_TIP) != 0) icon_->tip = win32::narrow(asked.tip);
 }
 
-void TaskBar::pump() {
-  MSG message;
-  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-}
-
-std::optional<TaskBar::Icon> TaskBar::icon() {
-  pump();
+std::optional<TaskBar::Icon> TaskBar::icon() const {
+  const std::scoped_lock lock(guard_);
   return icon_;
 }
 
-bool TaskBar::showsIcon(std::uint32_t milliseconds) {
+bool TaskBar::showsIcon(std::uint32_t milliseconds) const {
   const ULONGLONG end = GetTickCount64() + milliseconds;
   while (!icon() && GetTickCount64() < end) Sleep(kLook);
-  return icon_.has_value();
+  return icon().has_value();
 }
 
-bool TaskBar::losesIcon(std::uint32_t milliseconds) {
+bool TaskBar::losesIcon(std::uint32_t milliseconds) const {
   const ULONGLONG end = GetTickCount64() + milliseconds;
   while (icon() && GetTickCount64() < end) Sleep(kLook);
-  return !icon_.has_value();
+  return !icon();
 }
 
 void TaskBar::startAnew() {
-  icon_.reset();
+  {
+    const std::scoped_lock lock(guard_);
+    icon_.reset();
+  }
   PostMessageW(HWND_BROADCAST, RegisterWindowMessageW(L"TaskbarCreated"), 0, 0);
 }
 
-void TaskBar::mouse(UINT message) {
-  if (icon_) PostMessageW(icon_->window, icon_->message, icon_->id, static_cast<LPARAM>(message));
+void TaskBar::mouse(UINT message) const {
+  const auto at = icon();
+  if (at) PostMessageW(at->window, at->message, at->id, static_cast<LPARAM>(message));
 }
 
 }  // namespace tavr::testing

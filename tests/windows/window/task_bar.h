@@ -1,11 +1,14 @@
 // The task bar of a test: it takes the icons that programs put into the
-// notification area.
+// notification area. It stands on a thread of its own, as programs wait for it.
 #pragma once
 
 #include <windows.h>
 
+#include <future>
+#include <mutex>
 #include <optional>
 #include <string>
+#include <thread>
 
 namespace tavr::testing {
 
@@ -24,22 +27,25 @@ class TaskBar {
   TaskBar(const TaskBar&) = delete;
   TaskBar& operator=(const TaskBar&) = delete;
 
-  /// The icon that stands there now; serves what programs ask meanwhile.
-  std::optional<Icon> icon();
-  bool showsIcon(std::uint32_t milliseconds = 10000);
-  bool losesIcon(std::uint32_t milliseconds = 10000);
+  /// The icon that stands there now.
+  std::optional<Icon> icon() const;
+  bool showsIcon(std::uint32_t milliseconds = 10000) const;
+  bool losesIcon(std::uint32_t milliseconds = 10000) const;
   /// Forgets all icons and tells everybody that the task bar is a new one.
   void startAnew();
   /// The mouse on the icon.
-  void mouse(UINT message);
-  void pump();
+  void mouse(UINT message) const;
 
  private:
   static LRESULT CALLBACK procedure(HWND, UINT, WPARAM, LPARAM);
   void take(const COPYDATASTRUCT& data);
+  void serve();
 
   HWND window_ = nullptr;
+  mutable std::mutex guard_;
   std::optional<Icon> icon_;
+  std::promise<void> made_;
+  std::thread thread_;
 };
 
 }  // namespace tavr::testing

@@ -33,6 +33,7 @@ class WindowTest : public ::testing::Test {
   /// Files in the program's folder: "lang\\x". An absolute path is taken as it is.
   static std::wstring place(std::string_view file);
   static void write(std::string_view file, std::string_view contents);
+  static void removeFolder(const std::wstring& folder);
   static bool exists(std::string_view file);
   static std::string contents(std::string_view file);
 

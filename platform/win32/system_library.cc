@@ -1,0 +1,18 @@
+#include "platform/win32/system_library.h"
+
+#include <windows.h>
+
+namespace tavr::win32 {
+
+SystemLibrary::SystemLibrary(const wchar_t* name)
+    : module_(LoadLibraryExW(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32)) {}
+
+void* SystemLibrary::find(const char* function) const {
+  return reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(module_.get()), function));
+}
+
+void SystemLibrary::Free::operator()(void* module) const {
+  FreeLibrary(static_cast<HMODULE>(module));
+}
+
+}  // namespace tavr::win32
