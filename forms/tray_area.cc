@@ -31,6 +31,7 @@ void TrayArea::add() {
   if (!icon_.empty()) record_.flags += kFlagIcon;
   if (!tool_tip.empty()) record_.flags += kFlagTip;
   record_.tip = leftUtf16(tool_tip, kTipLength);
+  desktop_.identifyTrayIcon(record_.id);
   desktop_.addTrayIcon(record_.tip);
 }
 

@@ -25,9 +25,12 @@ class Desktop {
   /// UnregisterHotKey; one that is not registered is left alone.
   virtual void unregisterHotKey(int id) = 0;
 
+  /// The number of the icon that is added next. A desktop that shows none needs none.
+  virtual void identifyTrayIcon(std::uint32_t /*id*/) {}
   /// Shell_NotifyIcon for the program's one icon: added with its tool tip.
   virtual void addTrayIcon(std::string_view tool_tip) = 0;
-  /// The same for the icon that stands there: its picture or tool tip is another.
+  /// The same for the icon that stands there: its tool tip is another, or, where that
+  /// is the one it has, its picture.
   virtual void changeTrayIcon(std::string_view tool_tip) = 0;
   virtual void removeTrayIcon() = 0;
 

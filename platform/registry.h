@@ -79,8 +79,8 @@ class RegistryKey {
   /// RegDeleteValue. 2: no such value.
   virtual Status deleteValue(std::string_view name) = 0;
 
-  /// RegDeleteKey on a subkey path, in the view of the handle. The key's values
-  /// go with it. 2: no such key; 5: it has subkeys.
+  /// RegDeleteKey on a subkey path, in the view of the handle; "" is the key itself.
+  /// The key's values go with it. 2: no such key; 5: it has subkeys.
   virtual Status deleteKey(std::string_view subkey) = 0;
 
   /// RegGetKeySecurity of the access list. 5: opened without READ_CONTROL

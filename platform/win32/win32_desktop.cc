@@ -15,7 +15,6 @@ namespace tavr::win32 {
 
 namespace {
 
-constexpr UINT kIconId = 1;
 constexpr UINT kTrayMessage = 512;
 // One text of 64 characters with its NUL, as the icons of old have it.
 constexpr std::size_t kTipLength = 63;
@@ -67,7 +66,7 @@ bool Win32Desktop::notify(unsigned long operation, unsigned flags) const {
   NOTIFYICONDATAW data{};
   data.cbSize = sizeof(data);
   data.hWnd = static_cast<HWND>(tray_window_);
-  data.uID = kIconId;
+  data.uID = icon_id_;
   data.uFlags = flags;
   data.uCallbackMessage = kTrayMessage;
   data.hIcon = static_cast<HICON>(icon_);
@@ -95,6 +94,10 @@ void Win32Desktop::show() {
 void Win32Desktop::onTimer(std::uintptr_t timer) {
   auto* const desktop = reinterpret_cast<Win32Desktop*>(timer);
   if (desktop->wanted_) desktop->show();
+}
+
+void Win32Desktop::identifyTrayIcon(std::uint32_t id) {
+  if (!wanted_) icon_id_ = id;  // one that stands there keeps its own
 }
 
 void Win32Desktop::addTrayIcon(std::string_view tool_tip) {

@@ -27,6 +27,7 @@ class Win32Desktop : public Desktop {
   ScreenSize screen() override;
   bool registerHotKey(int id, std::uint32_t modifiers, std::uint32_t virtual_key) override;
   void unregisterHotKey(int id) override;
+  void identifyTrayIcon(std::uint32_t id) override;
   /// While the task bar does not take the icon, as it does not at first when a
   /// user has just logged on, it is asked again once a second.
   void addTrayIcon(std::string_view tool_tip) override;
@@ -45,6 +46,7 @@ class Win32Desktop : public Desktop {
   void* window_ = nullptr;
   void* tray_window_ = nullptr;
   void* icon_ = nullptr;
+  std::uint32_t icon_id_ = 1;
   std::string tool_tip_;
   bool wanted_ = false;  // the icon shall stand in the notification area
   bool shown_ = false;   // and the task bar has taken it

@@ -2,7 +2,6 @@
 
 #include <windows.h>
 
-#include <algorithm>
 #include <utility>
 
 #include "platform/win32/wide.h"
@@ -13,7 +12,6 @@ namespace tavr::win32 {
 namespace {
 
 constexpr REGSAM kBothViews = KEY_WOW64_32KEY | KEY_WOW64_64KEY;
-constexpr std::size_t kLongestName = 255;
 
 // Numbers come from callers as they are, and one that is no root could be a
 // handle of this process that happens to be a key.
@@ -29,16 +27,6 @@ HKEY handleOf(Root root) {
       return HKEY_USERS;
   }
   return nullptr;
-}
-
-bool hasLongName(std::wstring_view path) {
-  if (path.size() <= kLongestName) return false;
-  for (std::size_t at = 0; at < path.size();) {
-    const std::size_t end = std::min(path.find(L'\\', at), path.size());
-    if (end - at > kLongestName) return true;
-    at = end + 1;
-  }
-  return false;
 }
 
 // What every call asks first.

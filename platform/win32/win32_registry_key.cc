@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <array>
 
 #include "platform/win32/registry_data.h"
@@ -26,6 +27,17 @@ void take(RegistryData& out, DWORD type, const BYTE* data, DWORD size, std::uint
 }
 
 }  // namespace
+
+bool hasLongName(std::wstring_view path) {
+  constexpr std::size_t kLongestName = kKeyNameRoom - 1;
+  if (path.size() <= kLongestName) return false;
+  for (std::size_t at = 0; at < path.size();) {
+    const std::size_t end = std::min(path.find(L'\\', at), path.size());
+    if (end - at > kLongestName) return true;
+    at = end + 1;
+  }
+  return false;
+}
 
 Win32RegistryKey::~Win32RegistryKey() { RegCloseKey(asKey(key_)); }
 
@@ -100,7 +112,9 @@ Status Win32RegistryKey::deleteValue(std::string_view name) {
 }
 
 Status Win32RegistryKey::deleteKey(std::string_view subkey) {
-  return asStatus(RegDeleteKeyExW(asKey(key_), wide(subkey).c_str(), view_, 0));
+  const std::wstring name = wide(subkey);
+  if (hasLongName(name)) return kInvalidParameter;
+  return asStatus(RegDeleteKeyExW(asKey(key_), name.c_str(), view_, 0));
 }
 
 Status Win32RegistryKey::security(SecurityDescriptor& out) {

@@ -1,11 +1,16 @@
 // An open registry key.
 #pragma once
 
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/registry.h"
 
 namespace tavr::win32 {
+
+/// A name in the path has more units than any key's has.
+bool hasLongName(std::wstring_view path);
 
 class Win32RegistryKey final : public RegistryKey {
  public:

@@ -190,6 +190,20 @@ TEST_F(FilesSearchContract, AFileInAFoldersPlaceIs267AndHasNoSubfolders) {
   EXPECT_TRUE(names.empty());
 }
 
+TEST_F(FilesSearchContract, BlanksAndDotsBehindAPatternAreNoPartOfIt) {
+  on().plantFile(at("in\\a.txt"), "x");
+  on().plantFile(at("in\\b"), "x");
+  EXPECT_THAT(found("in\\a.txt."), ElementsAre("a.txt"));
+  EXPECT_THAT(found("in\\a.txt "), ElementsAre("a.txt"));
+  EXPECT_THAT(found("in\\*.txt "), ElementsAre("a.txt"));
+}
+
+TEST_F(FilesSearchContract, APatternThatEndsInADotWantsNoExtension) {
+  on().plantFile(at("in\\a.txt"), "x");
+  on().plantFile(at("in\\b"), "x");
+  EXPECT_THAT(found("in\\*."), ElementsAre("b"));
+}
+
 TEST_F(FilesSearchContract, AForwardSlashSeparatesToo) {
   on().plantFile(at("sub\\a.txt"), "x");
   std::string path = at("sub\\*.txt");

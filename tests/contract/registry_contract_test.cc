@@ -164,6 +164,24 @@ TEST_F(RegistryContract, ANameOfMoreThan255UnitsIsNoKeyName) {
   EXPECT_EQ(create(longest + "k").status, kInvalidParameter);
 }
 
+TEST_F(RegistryContract, ALongNameIsNoneToBeOpenedOrDeletedEither) {
+  const std::string long_name(256, 'n');
+  const OpenedKey key = create();
+  ASSERT_EQ(key.status, kSuccess);
+  EXPECT_EQ(open(kRead, "\\" + long_name).status, kInvalidParameter);
+  EXPECT_EQ(key.key->deleteKey(long_name), kInvalidParameter);
+  EXPECT_EQ(machine().registry.deleteKey(Root::kCurrentUser, this->key("\\" + long_name)),
+            kInvalidParameter);
+}
+
+TEST_F(RegistryContract, AnEmptyNameDeletesTheKeyItself) {
+  ASSERT_EQ(create("\\a").status, kSuccess);
+  const OpenedKey key = open(kAll, "\\a");
+  ASSERT_EQ(key.key->deleteKey(""), kSuccess);
+  EXPECT_EQ(open(kRead, "\\a").status, kFileNotFound);
+  EXPECT_EQ(open(kRead).key->deleteKey("none"), kFileNotFound);
+}
+
 TEST_F(RegistryContract, AMaskCannotNameBothViews) {
   ASSERT_EQ(create().status, kSuccess);
   EXPECT_EQ(open(kRead | k64 | k32).status, kInvalidParameter);

@@ -124,7 +124,7 @@ TEST_F(UrlCacheContract, AWalkGoesOnWhileItsEntriesAreRemoved) {
 }
 
 TEST_F(UrlCacheContract, ALongAddressIsWhole) {
-  const std::string url = "http://tavr.example/" + std::string(1500, 'a');
+  const std::string url = "http://tavr.example/" + std::string(2050, 'a');
   const std::string file = on().plantCacheFile(url, "a.txt");
   on().plantCacheEntry(kNormalEntry, url, file);
   CacheEntry entry;

@@ -28,6 +28,8 @@ constexpr Difference kDifferences[] = {
      "Wine cannot hide a file that it has just made read-only"},
     {"FilesSearchContract.AFileInAFoldersPlaceIs267AndHasNoSubfolders",
      "Wine finds an invalid name there: error 123"},
+    {"FilesSearchContract.APatternThatEndsInADotWantsNoExtension",
+     "Wine drops the dot behind a pattern as behind a name"},
     {"IniContract.ACommentIsNoKey", "Wine finds the key \";k\" in a comment"},
     {"IniContract.WritingKeepsEveryOtherLine", "Wine drops blank lines as it writes"},
     {"ProcessesContract.AQueryThatCannotBeReadFails",

@@ -56,6 +56,7 @@ class TaskBar {
   std::vector<std::string> taken() { return std::exchange(taken_, {}); }
   bool takes = true;
   int refused = 0;
+  UINT last_id = 0;
 
  private:
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
@@ -75,6 +76,7 @@ class TaskBar {
                              : data.dwData == NIM_MODIFY ? "change "
                                                          : "remove ";
     const std::string tip = (asked.flags & NIF_TIP) != 0 ? " " + narrow(asked.tip) : "";
+    last_id = asked.id;
     taken_.push_back(name + std::to_string(asked.flags) + tip);
     return true;
   }
@@ -130,6 +132,17 @@ TEST_F(TrayIconTest, IsAddedWithAllAndChangedWithWhatIsAnother) {
   desktop_->removeTrayIcon();
   desktop_->removeTrayIcon();
   EXPECT_THAT(bar_->taken(), ElementsAre("add 7 one", "change 4 two", "change 2", "remove 0"));
+}
+
+TEST_F(TrayIconTest, KeepsTheNumberThatItWasAddedWith) {
+  desktop_->identifyTrayIcon(4711);
+  desktop_->addTrayIcon("one");
+  EXPECT_EQ(bar_->last_id, 4711U);
+  desktop_->identifyTrayIcon(5);
+  desktop_->changeTrayIcon("two");
+  EXPECT_EQ(bar_->last_id, 4711U);
+  desktop_->removeTrayIcon();
+  EXPECT_EQ(bar_->last_id, 4711U);
 }
 
 TEST_F(TrayIconTest, WithoutATipItIsAddedWithoutOne) {

@@ -178,6 +178,11 @@ LRESULT DrawnControl::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
     case WM_ENABLE:
+      // While a button of the mouse is down on it, the focus may come and go.
+      if (GetCapture() != window_) held_ = false;
+      invalidate();
+      break;
+    case WM_CAPTURECHANGED:
       held_ = false;
       invalidate();
       break;

@@ -18,6 +18,7 @@ Control* FormWindow::focused() const {
 }
 
 void FormWindow::focusFirst() {
+  if (focused()) return;  // the click that activates the form has put it there
   Control* target = last_focus_;
   if (!target || !target->enabled || !inSight(form_, *target)) {
     target = nextFocus(form_, nullptr, false);

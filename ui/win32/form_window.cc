@@ -18,13 +18,7 @@ namespace tavr::win32 {
 namespace {
 
 constexpr wchar_t kClass[] = L"TavrForm";
-constexpr wchar_t kShadowProperty[] = L"TrickShadow";
-constexpr int kShadowSize = 10;
-constexpr COLORREF kShadowColor = 0x808080;
 constexpr COLORREF kMaskColor = 0xFF00FF;
-constexpr int kCornerRadius = 8;
-constexpr int kUsualDpi = 96;
-constexpr int kSentenceGap = 8;  // px at 96 dpi
 constexpr DWORD kStyle = WS_POPUP | WS_CLIPCHILDREN | WS_MINIMIZEBOX | WS_SYSMENU;
 
 }  // namespace
@@ -91,45 +85,6 @@ FormWindow* FormWindow::of(HWND window) {
   return reinterpret_cast<FormWindow*>(GetWindowLongPtrW(root, GWLP_USERDATA));
 }
 
-void FormWindow::takeDpi(int dpi) {
-  dpi_ = dpi;
-  const std::unique_ptr<Fonts> before = std::exchange(fonts_, std::make_unique<Fonts>(scale()));
-  // The windows let go of the fonts before they are destroyed.
-  for (const auto& [control, bound] : bound_) bound->sync();
-}
-
-// A form keeps its middle whatever the resolution: its place is reckoned for
-// its size at 96 dpi.
-void FormWindow::layOut() {
-  const FormLook& look = lookOf(form_);
-  const int full_height = form_.height + look.strip_above;
-  const int width = px(form_.width);
-  const int height = px(full_height);
-  placing_ = true;
-  SetWindowPos(window_, nullptr, form_.left + (form_.width - width) / 2,
-               form_.top + (full_height - height) / 2, width, height,
-               SWP_NOZORDER | SWP_NOACTIVATE);
-  placing_ = false;
-  shapeCorners({width, height});
-  InvalidateRect(window_, nullptr, FALSE);
-}
-
-void FormWindow::shapeCorners(SIZE size) {
-  const HBITMAP before = shape_picture_;
-  shape_picture_ = roundedPicture(size, px(kCornerRadius), kMaskColor);
-  shape_->setPicture(shape_picture_);
-  if (before != nullptr) DeleteObject(before);
-}
-
-void FormWindow::takePosition() {
-  if (placing_ || IsIconic(window_)) return;
-  RECT at;
-  GetWindowRect(window_, &at);
-  const int full_height = form_.height + lookOf(form_).strip_above;
-  form_.left = placed_left_ = at.left - (form_.width - (at.right - at.left)) / 2;
-  form_.top = placed_top_ = at.top - (full_height - (at.bottom - at.top)) / 2;
-}
-
 void FormWindow::takeLook(COLORREF strip, bool right_to_left) {
   strip_ = strip;
   palette_ = Palette::of(strip);
@@ -144,25 +99,6 @@ void FormWindow::takeLook(COLORREF strip, bool right_to_left) {
     tips_ = std::make_unique<ToolTips>(window_, right_to_left);
   }
   RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
-}
-
-void FormWindow::setShadow(bool on) {
-  if (on == shadow_) return;
-  shadow_ = on;
-  if (!on) {
-    detachShadow(window_);
-    return;
-  }
-  const HWND active = GetActiveWindow();
-  attachShadow(window_);
-  // Its showing activates it, and a window manager may want to do so again. The
-  // keyboard stays with the form.
-  const HWND shadow = static_cast<HWND>(GetPropW(window_, kShadowProperty));
-  SetWindowLongPtrW(shadow, GWL_EXSTYLE,
-                    GetWindowLongPtrW(shadow, GWL_EXSTYLE) | WS_EX_NOACTIVATE);
-  if (active != nullptr) SetActiveWindow(active);
-  setShadowSize(window_, kShadowSize);
-  setShadowColor(window_, kShadowColor);
 }
 
 void FormWindow::sync(COLORREF strip, bool right_to_left, bool may_show) {
@@ -239,37 +175,6 @@ HWND FormWindow::windowOfHolder(const Control& control) {
   BoundControl* bound = boundOf(*holder);
   if (!bound) bound = makeWindowOf(*holder);
   return bound ? bound->window() : window_;
-}
-
-// The design leaves room for the longest language; what stands behind a shorter
-// text moves up to it.
-int FormWindow::startOf(const Control& control, const ControlLook& look) const {
-  const Control* const before = look.follows.empty() ? nullptr : form_.find(look.follows);
-  if (!before) return control.box.left;
-  const int start = startOf(*before, lookOf(form_, *before));
-  return std::min(control.box.left, start + widthOf(*before) + kSentenceGap);
-}
-
-int FormWindow::widthOf(const Control& control) const {
-  const bool label = control.design.kind == ControlKind::kLabel;
-  if (!label || !isFollowed(form_, control)) return control.box.width;
-  const HDC dc = GetDC(window_);
-  const int width = MulDiv(captionSize(dc, control, scale()).cx, kUsualDpi, dpi_) + 1;
-  ReleaseDC(window_, dc);
-  return std::min(width, control.box.width);
-}
-
-RECT FormWindow::pixels(const Control& control, const ControlLook& look) const {
-  Box box = control.box;
-  box.left = startOf(control, look);
-  box.width = widthOf(control);
-  const Control* const holder = holderOf(form_, control);
-  if (!holder) box.top += lookOf(form_).strip_above;
-  if (right_to_left_) {
-    const int width = holder ? holder->box.width : form_.width;
-    box.left = width - box.left - box.width;
-  }
-  return {px(box.left), px(box.top), px(box.left + box.width), px(box.top + box.height)};
 }
 
 bool FormWindow::route(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& answer) {

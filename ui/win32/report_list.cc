@@ -25,6 +25,25 @@ RECT centred(const RECT& area, int left, int size) {
   return {left, top, left + size, top + size};
 }
 
+// A mirrored list turns letters back by itself; a picture in it would be seen
+// from behind. Draws at the same place with the plain layout.
+template <class Draw>
+void drawUnmirrored(HDC dc, const RECT& area, Draw draw) {
+  const DWORD layout = GetLayout(dc);
+  if ((layout & LAYOUT_RTL) == 0) return draw(area);
+  RECT place = area;
+  LPtoDP(dc, reinterpret_cast<POINT*>(&place), 2);
+  SetLayout(dc, 0);
+  DPtoLP(dc, reinterpret_cast<POINT*>(&place), 2);
+  if (place.left > place.right) {
+    const LONG width = area.right - area.left;
+    place.left = place.right + 1;
+    place.right = place.left + width;
+  }
+  draw(place);
+  SetLayout(dc, layout);
+}
+
 }  // namespace
 
 ReportList::ReportList(FormWindow& form, Control& control) : BoundControl(form, control) {
@@ -222,7 +241,9 @@ void ReportList::drawBox(HDC dc, RECT& area, bool checked) {
   DrawnState state;
   state.scale = form_.scale();
   const RECT sign = centred(area, area.left, form_.px(kSign));
-  drawCheckBox(dc, sign, box, checked ? 1 : 0, state, form_.palette());
+  drawUnmirrored(dc, sign, [&](const RECT& place) {
+    drawCheckBox(dc, place, box, checked ? 1 : 0, state, form_.palette());
+  });
   area.left = sign.right + form_.px(kPadding / 2);
 }
 
@@ -232,7 +253,9 @@ void ReportList::drawCell(HDC dc, RECT area, const Cell& cell) {
   if (cell.has_box) drawBox(dc, area, cell.checked);
   if (!cell.icon.empty()) {
     const RECT sign = centred(area, area.left, form_.px(kSign));
-    drawIcon(dc, sign, cell.icon, cell.icon_color, form_.scale());
+    drawUnmirrored(dc, sign, [&](const RECT& place) {
+      drawIcon(dc, place, cell.icon, cell.icon_color, form_.scale());
+    });
     area.left = sign.right + form_.px(kPadding / 2);
   }
   const std::wstring text = wide(cell.text);

@@ -84,6 +84,7 @@ TEST_F(Keyboard, TheSpaceBarPressesWhenItIsLetGo) {
 
 TEST_F(Keyboard, AltShowsTheAccessKeysAndOneOfThemPresses) {
   start();
+  EXPECT_TRUE(hasFocus("Form1.cmd_settings"));
   const auto before = program().pixels("Form1.cmd_option");
   INPUT alt{};
   alt.type = INPUT_KEYBOARD;

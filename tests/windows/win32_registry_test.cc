@@ -1,0 +1,52 @@
+// What platform/win32/win32_registry.h does with names that are no text of UTF-8.
+#include "platform/win32/win32_registry.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <string>
+
+#include "platform/win32/wide.h"
+#include "tests/contract/win32_scratch.h"
+
+namespace tavr::win32 {
+namespace {
+
+// KEY_READ, KEY_WRITE.
+constexpr std::uint32_t kAccess = 0x2001F;
+
+TEST(Win32RegistryTest, NamesWithHalfAPairOfSurrogatesAreFoundAndDeleted) {
+  const contract::ScratchKey scratch("Tavr Win32 Registry");
+  const std::wstring name = std::wstring(L"half ") + wchar_t{0xD83D};
+  Win32Registry registry;
+  const OpenedKey key = registry.create(Root::kCurrentUser, scratch.path(), "", kAccess);
+  ASSERT_EQ(key.status, kSuccess);
+  // Planted by the calls of Windows, found by the names that the seam gives.
+  HKEY native = nullptr;
+  ASSERT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, wide(scratch.path()).c_str(), 0,
+                          KEY_ALL_ACCESS | KEY_WOW64_32KEY, &native),
+            ERROR_SUCCESS);
+  const BYTE data[] = {1};
+  EXPECT_EQ(RegSetValueExW(native, name.c_str(), 0, REG_BINARY, data, 1), ERROR_SUCCESS);
+  HKEY made = nullptr;
+  EXPECT_EQ(RegCreateKeyExW(native, name.c_str(), 0, nullptr, 0, KEY_READ, nullptr, &made, nullptr),
+            ERROR_SUCCESS);
+  RegCloseKey(made);
+  RegCloseKey(native);
+
+  std::string value;
+  std::uint32_t type = 0;
+  std::uint32_t size = 0;
+  ASSERT_EQ(key.key->enumValue(0, value, type, size), kSuccess);
+  EXPECT_EQ(wide(value), name);
+  EXPECT_EQ(key.key->deleteValue(value), kSuccess);
+  EXPECT_EQ(key.key->enumValue(0, value, type, size), kNoMoreItems);
+  std::string subkey;
+  ASSERT_EQ(key.key->enumKey(0, subkey), kSuccess);
+  EXPECT_EQ(wide(subkey), name);
+  EXPECT_EQ(key.key->deleteKey(subkey), kSuccess);
+  EXPECT_EQ(key.key->enumKey(0, subkey), kNoMoreItems);
+}
+
+}  // namespace
+}  // namespace tavr::win32

@@ -1,0 +1,90 @@
+// Where a form's window and the windows of its controls stand: the design's
+// places at the monitor's resolution, in the direction of the language.
+#include <algorithm>
+#include <utility>
+
+#include "ui/win32/control_places.h"
+#include "ui/win32/form_window.h"
+
+namespace tavr::win32 {
+
+namespace {
+
+constexpr COLORREF kMaskColor = 0xFF00FF;
+constexpr int kCornerRadius = 8;
+constexpr int kUsualDpi = 96;
+constexpr int kSentenceGap = 8;  // px at 96 dpi
+
+}  // namespace
+
+void FormWindow::takeDpi(int dpi) {
+  dpi_ = dpi;
+  const std::unique_ptr<Fonts> before = std::exchange(fonts_, std::make_unique<Fonts>(scale()));
+  // The windows let go of the fonts before they are destroyed.
+  for (const auto& [control, bound] : bound_) bound->sync();
+}
+
+// A form keeps its middle whatever the resolution: its place is reckoned for
+// its size at 96 dpi.
+void FormWindow::layOut() {
+  const FormLook& look = lookOf(form_);
+  const int full_height = form_.height + look.strip_above;
+  const int width = px(form_.width);
+  const int height = px(full_height);
+  placing_ = true;
+  SetWindowPos(window_, nullptr, form_.left + (form_.width - width) / 2,
+               form_.top + (full_height - height) / 2, width, height,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+  placing_ = false;
+  shapeCorners({width, height});
+  InvalidateRect(window_, nullptr, FALSE);
+}
+
+void FormWindow::shapeCorners(SIZE size) {
+  const HBITMAP before = shape_picture_;
+  shape_picture_ = roundedPicture(size, px(kCornerRadius), kMaskColor);
+  shape_->setPicture(shape_picture_);
+  if (before != nullptr) DeleteObject(before);
+}
+
+void FormWindow::takePosition() {
+  if (placing_ || IsIconic(window_)) return;
+  RECT at;
+  GetWindowRect(window_, &at);
+  const int full_height = form_.height + lookOf(form_).strip_above;
+  form_.left = placed_left_ = at.left - (form_.width - (at.right - at.left)) / 2;
+  form_.top = placed_top_ = at.top - (full_height - (at.bottom - at.top)) / 2;
+}
+
+// The design leaves room for the longest language; what stands behind a shorter
+// text moves up to it.
+int FormWindow::startOf(const Control& control, const ControlLook& look) const {
+  const Control* const before = look.follows.empty() ? nullptr : form_.find(look.follows);
+  if (!before) return control.box.left;
+  const int start = startOf(*before, lookOf(form_, *before));
+  return std::min(control.box.left, start + widthOf(*before) + kSentenceGap);
+}
+
+int FormWindow::widthOf(const Control& control) const {
+  const bool label = control.design.kind == ControlKind::kLabel;
+  if (!label || !isFollowed(form_, control)) return control.box.width;
+  const HDC dc = GetDC(window_);
+  const int width = MulDiv(captionSize(dc, control, scale()).cx, kUsualDpi, dpi_) + 1;
+  ReleaseDC(window_, dc);
+  return std::min(width, control.box.width);
+}
+
+RECT FormWindow::pixels(const Control& control, const ControlLook& look) const {
+  Box box = control.box;
+  box.left = startOf(control, look);
+  box.width = widthOf(control);
+  const Control* const holder = holderOf(form_, control);
+  if (!holder) box.top += lookOf(form_).strip_above;
+  if (right_to_left_) {
+    const int width = holder ? holder->box.width : form_.width;
+    box.left = width - box.left - box.width;
+  }
+  return {px(box.left), px(box.top), px(box.left + box.width), px(box.top + box.height)};
+}
+
+}  // namespace tavr::win32
