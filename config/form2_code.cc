@@ -108,6 +108,7 @@ void Form2Code::Form_Load() {
   on.next([&] {
     const std::int32_t color = lookColor(context_.machine);
     form.back_color = color;
+    form.has_look_color = true;
     form.chameleonButton32.color = color;
     form.chameleonButton32.hover_color = color;
   });

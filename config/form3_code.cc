@@ -100,6 +100,7 @@ void Form3Code::takeLook() {
   on.next([&] {
     const std::int32_t color = lookColor(context_.machine);
     form.back_color = color;
+    form.has_look_color = true;
     form.chameleonButton32.color = color;
     form.chameleonButton32.hover_color = color;
   });

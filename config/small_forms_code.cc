@@ -84,6 +84,7 @@ void FrmaboutCode::Form_Load() {
   on.next([&] {
     const std::int32_t color = lookColor(context_.machine);
     form.back_color = color;
+    form.has_look_color = true;
     form.chameleonButton1.color = color;
     form.chameleonButton1.hover_color = color;
   });

@@ -31,6 +31,7 @@ template <class Code>
 Code& FormDesk::open(std::unique_ptr<Code>& code) {
   if (code) {
     code->form.visible = true;
+    ++code->form.shown_again;
     return *code;
   }
   code = std::make_unique<Code>(context_);
@@ -77,6 +78,7 @@ void FormDesk::openBrowserNote(std::string_view browser) {
   }
   note_->form.Text1.setText(browser);
   note_->form.visible = true;
+  ++note_->form.shown_again;
 }
 
 void FormDesk::openKeepList(std::string_view heading, std::string_view mode) {

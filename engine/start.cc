@@ -33,6 +33,7 @@ void colorTitleStrip(Program& program) {
   on.next([&] {
     const std::int32_t color = lookColor(program.machine);
     form.strip_color = color;
+    form.has_look_color = true;
     for (StripButton* button : {&form.chameleonButton9, &form.chameleonButton10,
                                 &form.chameleonButton12, &form.chameleonButton13}) {
       button->color = color;

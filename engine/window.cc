@@ -19,11 +19,10 @@ bool option(Program& program, std::string_view number) {
   return Val(program.registry.setting(settings::kOptionsKey, number)) == 1;
 }
 
-// A run on exit belongs to the silent start. `trigger` chooses the run; it is
-// over when the change of Text5 has been served.
+// `trigger` chooses the run; it is over when the change of Text5 has been served.
 void runOnExit(Program& program, std::string_view trigger) {
   Form1& form = program.form;
-  if (!option(program, "1") || !Like(Trim(form.Text11.text()), "s")) return;
+  if (!runsOnExit(program)) return;
   form.Text10.setText("1");
   form.Text5.setText("");
   form.Text5.setText(trigger);
@@ -37,6 +36,10 @@ void endUnlessRunning(Program& program) {
 }
 
 }  // namespace
+
+bool runsOnExit(Program& program) {
+  return option(program, "1") && Like(Trim(program.form.Text11.text()), "s");
+}
 
 void setWindowState(Program& program, WindowState state) {
   if (program.form.window_state == state) return;

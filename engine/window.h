@@ -38,6 +38,8 @@ void hotKeyProcedure(Program& program, std::uint32_t message, int id);
 /// process.
 void closeWindow(Program& program);
 void Form_QueryUnload(Program& program);
+/// Whether the closing starts a run, which belongs to the silent start.
+bool runsOnExit(Program& program);
 void Form_Terminate(Program& program);
 /// The window's own close button: the tray icon stays, and the run on exit is
 /// a Test.

@@ -41,6 +41,7 @@ struct frmmsg : Form {
     caption = heading;
     Text1.setText(text);
     visible = true;
+    ++shown_again;
   }
 };
 

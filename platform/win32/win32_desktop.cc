@@ -9,6 +9,7 @@
 #include <iterator>
 
 #include "basic/utf.h"
+#include "platform/win32/held_windows.h"
 #include "platform/win32/wide.h"
 
 namespace tavr::win32 {
@@ -129,12 +130,22 @@ std::optional<std::string> Win32Desktop::chooseFile(std::string_view filter,
   chosen.resize(kChosenLength);
   OPENFILENAMEW dialog{};
   dialog.lStructSize = sizeof(dialog);
-  dialog.hwndOwner = static_cast<HWND>(window_);
+  // The form that asks may lie above all others.
+  const HWND active = GetActiveWindow();
+  dialog.hwndOwner = active != nullptr ? active : static_cast<HWND>(window_);
   dialog.lpstrFilter = filters.c_str();
   dialog.lpstrFile = chosen.data();
   dialog.nMaxFile = kChosenLength;
   dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY;
-  if (!GetOpenFileNameW(&dialog)) return std::nullopt;
+  std::optional<Win32Events::ModalLoop> loop;
+  if (events_ != nullptr) loop.emplace(*events_);
+  const auto shown = [&] {
+    const HeldWindows held(dialog.hwndOwner);
+    return GetOpenFileNameW(&dialog) != FALSE;
+  };
+  const bool answered = shown();
+  if (loop) loop->rethrow();
+  if (!answered) return std::nullopt;
   return narrow(chosen.c_str());
 }
 

@@ -6,17 +6,20 @@
 #include <string>
 
 #include "platform/desktop.h"
+#include "platform/win32/win32_events.h"
 
 namespace tavr::win32 {
 
 class Win32Desktop : public Desktop {
  public:
-  Win32Desktop() = default;
+  /// With `events` its timers go on while a file is chosen.
+  explicit Win32Desktop(Win32Events* events = nullptr) : events_(events) {}
   ~Win32Desktop() override;
   Win32Desktop(const Win32Desktop&) = delete;
   Win32Desktop& operator=(const Win32Desktop&) = delete;
 
-  /// The main window (HWND): it gets the hot keys and owns the file dialog.
+  /// The main window (HWND): it gets the hot keys, and owns the file dialog
+  /// while no window of the program is active.
   void setWindow(void* window) { window_ = window; }
   /// The window (HWND) that gets the mouse messages of the icon, as message 512
   /// with the mouse's own in lParam, and the picture (HICON). An icon that is
@@ -43,6 +46,7 @@ class Win32Desktop : public Desktop {
   void show();
   bool notify(unsigned long operation, unsigned flags) const;
 
+  Win32Events* events_;
   void* window_ = nullptr;
   void* tray_window_ = nullptr;
   void* icon_ = nullptr;

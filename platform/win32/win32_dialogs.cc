@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/win32/held_windows.h"
 #include "platform/win32/wide.h"
 
 namespace tavr::win32 {
@@ -18,12 +19,16 @@ constexpr std::string_view kApplicationTitle = "Spoorwipe";
 int Win32Dialogs::messageBox(std::string_view text, std::uint32_t flags, std::string_view title) {
   const std::wstring wide_text = wide(text);
   const std::wstring wide_title = wide(title.empty() ? kApplicationTitle : title);
-  // No window of the program takes a click while the box is open.
+  // Without an owner the system disables every window of the program by itself.
   const UINT modal = (flags & MB_MODEMASK) == MB_APPLMODAL ? MB_TASKMODAL : 0;
   std::optional<Win32Events::ModalLoop> loop;
   if (events_ != nullptr) loop.emplace(*events_);
-  const int answer =
-      MessageBoxW(GetActiveWindow(), wide_text.c_str(), wide_title.c_str(), flags | modal);
+  const HWND owner = GetActiveWindow();
+  const auto shown = [&] {
+    const HeldWindows held(owner);
+    return MessageBoxW(owner, wide_text.c_str(), wide_title.c_str(), flags | modal);
+  };
+  const int answer = shown();
   if (loop) loop->rethrow();
   if (answer > 0) return answer;
   // Where no box can be shown nobody agrees to anything.

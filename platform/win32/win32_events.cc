@@ -162,6 +162,8 @@ void Win32Events::ModalLoop::serve() {
   try {
     const std::uint64_t now = tickCount();
     if (now >= events_.next_due_) events_.fireDue(now);
+    // What came in meanwhile: a hot key, a click on the icon, the closing.
+    if (events_.after_) events_.after_();
   } catch (...) {
     // It cannot pass through the system's loop; the loop ends first.
     thrown_ = std::current_exception();

@@ -40,7 +40,8 @@ class Win32Events : public Events {
   void setAfterMessages(std::function<void()> after) { after_ = std::move(after); }
 
   /// For as long as it lives the timers are served from a message loop of the
-  /// system's own, such as that of a message box.
+  /// system's own, such as that of a message box, and so is what stands behind the
+  /// messages.
   class ModalLoop {
    public:
     explicit ModalLoop(Win32Events& events);

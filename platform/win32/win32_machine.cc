@@ -33,7 +33,7 @@ struct Win32Machine::Services {
   Win32Events events;
   Win32Dialogs dialogs{&events};
   Win32Environment environment;
-  Win32Desktop desktop;
+  Win32Desktop desktop{&events};
   Win32Accounts accounts;
 };
 

@@ -52,12 +52,12 @@ TEST_F(StdRegProvContract, AnotherMonikerBindsNothing) {
 }
 
 TEST_F(StdRegProvContract, BothKindsOfTextAreReadWithReferencesExpanded) {
-  on().haveSystemRoot();
   // A variable of the system: the provider runs in a process of its own.
-  const std::string value = machine().environment.get("SystemRoot");
-  ASSERT_NE(value, "");
+  on().haveSystemRoot();
   plant("plain", kRegSz, utf16("a %SystemRoot%\0"s));
   plant("expand", kRegExpandSz, utf16("b %SystemRoot%"));
+  const std::string value = machine().environment.get("SystemRoot");
+  ASSERT_NE(value, "");
   std::string text;
   EXPECT_EQ(provider().getExpandedStringValue(kUser, key(), "plain", text), kSuccess);
   EXPECT_EQ(text, "a " + value);

@@ -9,6 +9,9 @@ namespace tavr::win32 {
 class BoundText : public BoundControl {
  public:
   BoundText(FormWindow& form, TextBox& box);
+  ~BoundText() override;
+  BoundText(const BoundText&) = delete;
+  BoundText& operator=(const BoundText&) = delete;
 
   void onCommand(int code) override;
 
@@ -17,11 +20,16 @@ class BoundText : public BoundControl {
   void place(const RECT& box) override;
 
  private:
+  static LRESULT CALLBACK fieldProcedure(HWND, UINT, WPARAM, LPARAM, UINT_PTR, DWORD_PTR);
   void showText();
+  void showScrollBar();
+  int lineHeight() const;
+  void paintEdge() const;
 
   TextBox& box_;
   std::string shown_;
   bool setting_ = false;  ///< the change comes from here, not from a person
+  int above_ = 1;         ///< px from the edge to the text
 };
 
 /// The text of a window.

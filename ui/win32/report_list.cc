@@ -138,8 +138,13 @@ void ReportList::syncOwn() {
   spreadColumns();
 }
 
+// Of those in sight alone: asked for more, a list may go through them all.
 void ReportList::redraw(std::size_t first, std::size_t last) {
-  ListView_RedrawItems(window_, static_cast<int>(first), static_cast<int>(last));
+  const int top = ListView_GetTopIndex(window_);
+  const int bottom = top + ListView_GetCountPerPage(window_);
+  const int from = std::max(top, static_cast<int>(first));
+  const int to = std::min(bottom, static_cast<int>(last));
+  if (from <= to) ListView_RedrawItems(window_, from, to);
 }
 
 LRESULT ReportList::onNotify(NMHDR& notice) {

@@ -4,6 +4,7 @@
 #include "engine/window.h"
 #include "forms/form2.h"
 #include "forms/form3.h"
+#include "ui/win32/color.h"
 
 namespace tavr::win32 {
 
@@ -89,9 +90,9 @@ void WindowSet::endSession() {
 }
 
 COLORREF WindowSet::stripOf(const Form& form) const {
-  if (form.name() != kMain && form.back_color > 0) return static_cast<COLORREF>(form.back_color);
-  const std::int32_t strip = program_.form.strip_color;
-  return strip > 0 ? static_cast<COLORREF>(strip) : kDesignedStrip;
+  if (form.name() != kMain && form.has_look_color) return fromControlColor(form.back_color);
+  const Form1& main = program_.form;
+  return main.has_look_color ? fromControlColor(main.strip_color) : kDesignedStrip;
 }
 
 void WindowSet::syncShadow(std::string_view name, FormWindow& window) {

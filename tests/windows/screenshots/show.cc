@@ -29,6 +29,7 @@ constexpr int kTries = 3;
 constexpr std::uint32_t kAnswer = 3000;  // ms
 constexpr int kShadow = 10;              // px at any resolution
 constexpr POINT kAside = {2, 2};
+constexpr POINT kFarCorner = {1800, 800};
 constexpr POINT kMenuPlace = {600, 400};
 constexpr wchar_t kMenuClass[] = L"#32768";
 
@@ -60,8 +61,9 @@ void see(const DrivenProgram& program, std::string_view name) {
 
 // The dialogs open in the middle of the screen, which the main form is not to
 // share with them.
-void moveAside(const DrivenProgram& program) {
-  SetWindowPos(program.form("Form1"), nullptr, kShadow, kShadow, 0, 0,
+void moveAside(const DrivenProgram& program, std::string_view form = "Form1",
+               POINT to = {kShadow, kShadow}) {
+  SetWindowPos(program.form(form), nullptr, to.x, to.y, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -184,7 +186,8 @@ void Photographs::ofAlone() {
   {
     const DrivenProgram program("Form52");
     see(program, "Form52");
-    moveAside(program);
+    moveAside(program, "Form1", kFarCorner);
+    moveAside(program, "Form52");  // it opens in the very corner
     take(program, "keep-list", "Form52");
   }
   const DrivenProgram program("Form4");

@@ -84,9 +84,9 @@ bool comes(const std::function<bool()>& what, std::uint32_t milliseconds) {
   return true;
 }
 
-DrivenProgram::DrivenProgram(std::string_view arguments) {
+DrivenProgram::DrivenProgram(std::string_view arguments, std::wstring_view file) {
   if (!isPen()) throw std::runtime_error("the program is started in a prefix of its own only");
-  const std::wstring program = besideTest(L"tavrwipe.exe");
+  const std::wstring program = besideTest(file);
   std::wstring command = L"\"" + program + L"\"";
   if (!arguments.empty()) command += L" " + win32::wide(arguments);
   STARTUPINFOW start{};
@@ -94,7 +94,7 @@ DrivenProgram::DrivenProgram(std::string_view arguments) {
   PROCESS_INFORMATION made{};
   if (!CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                       &start, &made)) {
-    throw std::runtime_error("tavrwipe.exe does not start");
+    throw std::runtime_error(win32::narrow(program) + " does not start");
   }
   CloseHandle(made.hThread);
   process_ = made.hProcess;

@@ -22,9 +22,9 @@ bool comes(const std::function<bool()>& what, std::uint32_t milliseconds = kPati
 
 class DrivenProgram {
  public:
-  /// Starts tavrwipe.exe from the folder of the test program. Raises
+  /// Starts a program from the folder of the test program. Raises
   /// std::runtime_error where the program must not run.
-  explicit DrivenProgram(std::string_view arguments = "");
+  explicit DrivenProgram(std::string_view arguments = "", std::wstring_view file = L"tavrwipe.exe");
   ~DrivenProgram();
   DrivenProgram(const DrivenProgram&) = delete;
   DrivenProgram& operator=(const DrivenProgram&) = delete;

@@ -143,16 +143,18 @@ TEST_F(Run, TheLogIsClearedAndTheProgramSaysSo) {
 // Wine has the editor, but leaves it to the person which files it opens.
 TEST_F(Run, TheLogIsShownByTheProgramThatOpensTexts) {
   constexpr wchar_t kTexts[] = L"txtfile";
-  RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Classes\\.txt", nullptr, REG_SZ, kTexts,
+  RegSetKeyValueW(HKEY_LOCAL_MACHINE, L"Software\\Classes\\.txt", nullptr, REG_SZ, kTexts,
                   sizeof(kTexts));
   write("eraselog.txt", "one line\r\n");
   start();
   program().click("Form1.cmd_view");
   HWND viewer = nullptr;
   EXPECT_TRUE(comes([&] { return (viewer = FindWindowW(L"Notepad", nullptr)) != nullptr; }));
-  wchar_t title[256] = L"";
-  GetWindowTextW(viewer, title, 256);
-  EXPECT_THAT(win32::narrow(title), HasSubstr("eraselog"));
+  EXPECT_TRUE(comes([&] {
+    wchar_t title[256] = L"";
+    GetWindowTextW(viewer, title, 256);
+    return std::wstring_view(title).find(L"eraselog") != std::wstring_view::npos;
+  }));
   SendMessageW(viewer, WM_CLOSE, 0, 0);
 }
 

@@ -1,0 +1,32 @@
+#include "platform/win32/held_windows.h"
+
+#include <windows.h>
+
+namespace tavr::win32 {
+
+namespace {
+
+thread_local int open_dialogs = 0;
+
+BOOL CALLBACK collectEnabled(HWND window, LPARAM data) {
+  if (IsWindowEnabled(window)) reinterpret_cast<std::vector<void*>*>(data)->push_back(window);
+  return TRUE;
+}
+
+}  // namespace
+
+HeldWindows::HeldWindows(void* owner) {
+  ++open_dialogs;
+  EnumThreadWindows(GetCurrentThreadId(), &collectEnabled, reinterpret_cast<LPARAM>(&held_));
+  std::erase(held_, owner);
+  for (void* const window : held_) EnableWindow(static_cast<HWND>(window), FALSE);
+}
+
+HeldWindows::~HeldWindows() {
+  for (void* const window : held_) EnableWindow(static_cast<HWND>(window), TRUE);
+  --open_dialogs;
+}
+
+bool HeldWindows::any() { return open_dialogs > 0; }
+
+}  // namespace tavr::win32
