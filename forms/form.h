@@ -32,7 +32,7 @@ class Form {
   WindowState window_state = WindowState::kNormal;
   std::int32_t back_color = 0;
   bool has_look_color = false;  ///< the person's look gave the form its colour
-  int shown_again = 0;          ///< counts the showings of a form that was open already
+  int shown_again = 0;          ///< grows with every showing of a form that is open already
 
   std::string_view name() const { return name_; }
 

@@ -13,6 +13,7 @@ void ResultList::clear() {
   rows_.clear();
   texts_.clear();
   count_ = free_ = ensured_row_ = 0;
+  ++clearings_;
   next_ = nullptr;
 }
 

@@ -39,6 +39,9 @@ class ResultList : public Control {
   /// Its number of rows.
   std::string shown() const override { return std::to_string(count_); }
 
+  /// How often it has been cleared: rows of an earlier time are not those of now.
+  std::size_t clearings() const { return clearings_; }
+
   /// The row last scrolled into view, 0 for none.
   std::size_t ensuredRow() const { return ensured_row_; }
 
@@ -63,6 +66,7 @@ class ResultList : public Control {
   std::size_t free_ = 0;  // bytes left in the last text block
   char* next_ = nullptr;
   std::size_t ensured_row_ = 0;
+  std::size_t clearings_ = 0;
 };
 
 }  // namespace tavr

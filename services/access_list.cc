@@ -46,7 +46,7 @@ std::string_view AccessEntry::sid() const {
   const std::string_view rest = std::string_view(bytes_).substr(kSidOffset);
   if (rest.size() < kSidHeaderSize) return rest;
   // Its second byte counts the sub-authorities; conditions may stand behind them.
-  return rest.substr(0, kSidHeaderSize + 4 * numberAt(rest, 1, 1));
+  return rest.substr(0, kSidHeaderSize + std::size_t{4} * numberAt(rest, 1, 1));
 }
 
 AccessList::AccessList(std::string_view bytes) : size_(bytes.size()) {

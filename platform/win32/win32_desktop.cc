@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 
 #include "basic/utf.h"
 #include "platform/win32/held_windows.h"

@@ -151,7 +151,7 @@ std::string accessibleName(const Form& form, const Control& control, std::string
     const std::string_view word = wordOfSign(look.icon, language);
     if (!word.empty()) return std::string(word);
   }
-  const std::string caption = trimmed(control.caption);
+  std::string caption = trimmed(control.caption);
   // A figure alone says nothing.
   if (look.label == LabelLook::kFigure) {
     const std::string of = placedName(form, control);

@@ -10,14 +10,15 @@ namespace tavr::win32 {
 
 namespace {
 
-std::optional<ButtonKey> buttonKey(WPARAM key, bool right_to_left) {
+// Left goes back in every language, as on all that takes the arrows.
+std::optional<ButtonKey> buttonKey(WPARAM key) {
   switch (key) {
     case VK_SPACE:
       return ButtonKey::kSpace;
     case VK_LEFT:
-      return right_to_left ? ButtonKey::kRight : ButtonKey::kLeft;
+      return ButtonKey::kLeft;
     case VK_RIGHT:
-      return right_to_left ? ButtonKey::kLeft : ButtonKey::kRight;
+      return ButtonKey::kRight;
     case VK_UP:
       return ButtonKey::kUp;
     case VK_DOWN:
@@ -25,6 +26,20 @@ std::optional<ButtonKey> buttonKey(WPARAM key, bool right_to_left) {
     default:
       return std::nullopt;
   }
+}
+
+std::string drawnProperties(const ChameleonButton& button) {
+  std::string drawn = "\n" + button.picture_normal + "\n" + button.picture_over;
+  for (const int property : {button.color, button.hover_color, button.text_color,
+                             button.hover_text_color, button.mask_color, button.button_type,
+                             button.color_scheme, button.picture_position, button.special_effect}) {
+    drawn += "\n" + std::to_string(property);
+  }
+  for (const bool property : {button.show_focus_rect, button.soft_bevel, button.use_mask_color,
+                              button.use_greyscale, button.check_box_behaviour, button.value}) {
+    drawn += property ? '1' : '0';
+  }
+  return drawn;
 }
 
 }  // namespace
@@ -60,10 +75,7 @@ bool BoundButton::isOpen() const {
 
 std::string BoundButton::drawnOf() const {
   std::string drawn = button_.caption + (isOpen() ? "\n1" : "\n0");
-  if (chameleon_) {
-    drawn += "\n" + std::to_string(chameleon_->color) + " " +
-             std::to_string(chameleon_->button_type) + (chameleon_->value ? " 1" : " 0");
-  }
+  if (chameleon_) drawn += drawnProperties(*chameleon_);
   return drawn;
 }
 
@@ -123,6 +135,16 @@ void BoundButton::onUp(MouseButton button, bool inside) {
   });
 }
 
+void BoundButton::onCancel() {
+  if (!chameleon_) return;
+  post([&chameleon = *chameleon_] {
+    if (chameleon.state() != ChameleonButton::State::kPressed) return;
+    std::function<void()> kept = std::exchange(chameleon.onClick, nullptr);
+    chameleon.keyUp(ButtonKey::kSpace);
+    chameleon.onClick = std::move(kept);
+  });
+}
+
 bool BoundButton::onKey(WPARAM key, bool down) {
   if (key == VK_RETURN) {
     if (down) post([&button = button_] { button.press(); });
@@ -132,7 +154,7 @@ bool BoundButton::onKey(WPARAM key, bool down) {
 }
 
 bool BoundButton::onChameleonKey(WPARAM key, bool down) {
-  const std::optional<ButtonKey> known = buttonKey(key, form_.rightToLeft());
+  const std::optional<ButtonKey> known = buttonKey(key);
   if (!known) return false;
   if (down) form_.showFocus();
   post([&chameleon = *chameleon_, known, down] {
@@ -146,7 +168,7 @@ bool BoundButton::onChameleonKey(WPARAM key, bool down) {
 }
 
 bool BoundButton::onPlainKey(WPARAM key, bool down) {
-  const std::optional<ButtonKey> known = buttonKey(key, form_.rightToLeft());
+  const std::optional<ButtonKey> known = buttonKey(key);
   if (!known) return false;
   if (*known == ButtonKey::kSpace) {
     if (held_ && !down) post([&plain = button_] { plain.press(); });

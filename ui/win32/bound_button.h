@@ -20,6 +20,7 @@ class BoundButton : public DrawnControl {
   void onLeave() override;
   void onDown(MouseButton button) override;
   void onUp(MouseButton button, bool inside) override;
+  void onCancel() override;
   bool onKey(WPARAM key, bool down) override;
 
  private:

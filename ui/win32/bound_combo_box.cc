@@ -62,6 +62,10 @@ void BoundComboBox::postText(bool from_list) {
 void BoundComboBox::onCommand(int code) {
   if (code == CBN_SELCHANGE) postText(true);
   if (code == CBN_EDITCHANGE) postText(false);
+  // The box takes back what the arrows chose, the form has heard of it.
+  if (code == CBN_SELENDCANCEL) {
+    post([this] { SetWindowTextW(window_, wide(shown_ = box_.text()).c_str()); });
+  }
 }
 
 }  // namespace tavr::win32

@@ -41,7 +41,7 @@ class BoundControl {
 
   // What its window tells the window that holds it.
   virtual void onCommand(int /*code*/) {}
-  virtual void onScroll(int /*code*/) {}
+  virtual void onScroll(int /*code*/, int /*position*/) {}
   virtual LRESULT onNotify(NMHDR& /*header*/) { return 0; }
   virtual HBRUSH onColor(HDC dc);
 
@@ -76,6 +76,9 @@ class BoundControl {
   HFONT native_font_ = nullptr;
   AccessibleAnnotation annotation_;
 };
+
+/// Whether WM_KEYDOWN comes of a key that was down before.
+inline bool isRepeated(LPARAM key_data) { return (key_data & (KF_REPEAT << 16)) != 0; }
 
 /// The window of a control of any kind; null for a kind without one.
 std::unique_ptr<BoundControl> makeBound(FormWindow& form, Control& control);

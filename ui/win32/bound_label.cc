@@ -11,7 +11,9 @@ bool BoundLabel::isLink() const {
   return look_.label == LabelLook::kLink || look_.label == LabelLook::kMenuRow;
 }
 
-std::string BoundLabel::drawnOf() const { return form_.captionOf(label_); }
+std::string BoundLabel::drawnOf() const {
+  return form_.captionOf(label_) + (label_.highlighted ? "\n1" : "\n0");
+}
 
 // A label whose form makes something of a click; every other lets the mouse
 // through.
@@ -31,7 +33,7 @@ void BoundLabel::draw(HDC dc, const RECT& area, const DrawnState& state) {
     palette.text = palette.high_contrast ? GetSysColor(COLOR_HOTLIGHT) : palette.accent;
   }
   if (look_.label == LabelLook::kTitle) palette.text = palette.strip_text;
-  if (look_.label == LabelLook::kMenuRow && (shown.hovered || shown.focused)) {
+  if (look_.label == LabelLook::kMenuRow && (label_.highlighted || shown.focused)) {
     form_.fill(dc, area, palette.hover);
   }
   drawLabel(dc, area, label_, look_.label == LabelLook::kHeading, look_.label == LabelLook::kFigure,

@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "ui/win32/color.h"
 #include "ui/win32/form_window.h"
 
 namespace tavr::win32 {
@@ -64,7 +65,10 @@ void BoundListView::describe(std::size_t row, std::size_t column, Cell& cell) co
   const ListCell& part = shown.cells[column - 1];
   cell.text = part.text;
   cell.bold = part.bold;
-  if (part.fore_color != 0) cell.color = form_.palette().danger;
+  if (part.fore_color != 0) {
+    const Palette& palette = form_.palette();
+    cell.color = palette.high_contrast ? palette.danger : fromControlColor(part.fore_color);
+  }
   cell.at_far_edge = column == 2;
   if (part.report_icon.empty()) return;
   cell.icon = "done";

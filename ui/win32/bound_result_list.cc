@@ -13,6 +13,11 @@ void BoundResultList::describe(std::size_t row, std::size_t /*column*/, Cell& ce
 }
 
 void BoundResultList::syncOwn() {
+  if (list_.clearings() != clearings_) {
+    clearings_ = list_.clearings();
+    ensured_ = 0;
+    forgetRows();
+  }
   ReportList::syncOwn();
   if (list_.ensuredRow() == ensured_) return;
   ensured_ = list_.ensuredRow();

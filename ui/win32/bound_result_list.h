@@ -20,6 +20,7 @@ class BoundResultList : public ReportList {
  private:
   ResultList& list_;
   std::size_t ensured_ = 0;
+  std::size_t clearings_ = 0;
 };
 
 }  // namespace tavr::win32

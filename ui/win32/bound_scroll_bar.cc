@@ -12,8 +12,10 @@ BoundScrollBar::BoundScrollBar(FormWindow& form, ScrollBar& bar)
 }
 
 void BoundScrollBar::syncOwn() {
-  if (bar_.value() == shown_value_ && bar_.max == shown_max_) return;
+  const bool same_range = bar_.min == shown_min_ && bar_.max == shown_max_;
+  if (bar_.value() == shown_value_ && same_range) return;
   shown_value_ = bar_.value();
+  shown_min_ = bar_.min;
   shown_max_ = bar_.max;
   SCROLLINFO info{};
   info.cbSize = sizeof(info);
@@ -24,13 +26,25 @@ void BoundScrollBar::syncOwn() {
   SetScrollInfo(window_, SB_CTL, &info, TRUE);
 }
 
-// Its upper end is its smallest value, as of any upright bar.
-void BoundScrollBar::onScroll(int code) {
-  int step = 0;
-  if (code == SB_LINEUP || code == SB_PAGEUP) step = -1;
-  if (code == SB_LINEDOWN || code == SB_PAGEDOWN) step = 1;
-  if (step == 0) return;
-  post([&bar = bar_, step] { bar.setValue(bar.value() + step); });
+// Its upper end is its smallest value, as of any upright bar. `position` is that
+// of the thumb when a drag has ended.
+void BoundScrollBar::onScroll(int code, int position) {
+  switch (code) {
+    case SB_LINEUP:
+    case SB_PAGEUP:
+      return post([&bar = bar_] { bar.setValue(bar.value() - 1); });
+    case SB_LINEDOWN:
+    case SB_PAGEDOWN:
+      return post([&bar = bar_] { bar.setValue(bar.value() + 1); });
+    case SB_TOP:
+      return post([&bar = bar_] { bar.setValue(bar.min); });
+    case SB_BOTTOM:
+      return post([&bar = bar_] { bar.setValue(bar.max); });
+    case SB_THUMBPOSITION:
+      return post([&bar = bar_, position] { bar.setValue(position); });
+    default:
+      return;
+  }
 }
 
 }  // namespace tavr::win32

@@ -10,7 +10,7 @@ class BoundScrollBar : public BoundControl {
  public:
   BoundScrollBar(FormWindow& form, ScrollBar& bar);
 
-  void onScroll(int code) override;
+  void onScroll(int code, int position) override;
 
  protected:
   void syncOwn() override;
@@ -18,6 +18,7 @@ class BoundScrollBar : public BoundControl {
  private:
   ScrollBar& bar_;
   int shown_value_ = -1;
+  int shown_min_ = -1;
   int shown_max_ = -1;
 };
 

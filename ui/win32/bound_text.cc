@@ -130,6 +130,12 @@ void BoundText::showText() {
   SetWindowTextW(window_, hasLines(box_) ? withFullBreaks(shown_).c_str() : wide(shown_).c_str());
   setting_ = false;
   showScrollBar();
+  showCaret();
+}
+
+// A form has a word on the caret of some boxes.
+void BoundText::showCaret() {
+  typed_ = false;
   const auto* const with_caret = dynamic_cast<const Form3::CaretBox*>(&box_);
   if (!with_caret) return;
   SendMessageW(window_, EM_SETSEL, with_caret->caret, static_cast<LPARAM>(with_caret->caret));
@@ -137,11 +143,13 @@ void BoundText::showText() {
 
 void BoundText::syncOwn() {
   if (box_.text() != shown_) showText();
+  if (typed_) showCaret();
 }
 
 void BoundText::onCommand(int code) {
   if (code != EN_CHANGE || setting_ || hasLines(box_)) return;
   post([this] {
+    typed_ = true;
     const std::string typed = shown_ = windowText(window_);
     box_.type(typed);  // its handler may close the form, and this with it
   });

@@ -22,12 +22,14 @@ class BoundText : public BoundControl {
  private:
   static LRESULT CALLBACK fieldProcedure(HWND, UINT, WPARAM, LPARAM, UINT_PTR, DWORD_PTR);
   void showText();
+  void showCaret();
   void showScrollBar();
   int lineHeight() const;
   void paintEdge() const;
 
   TextBox& box_;
   std::string shown_;
+  bool typed_ = false;    ///< the form may have put the caret elsewhere since
   bool setting_ = false;  ///< the change comes from here, not from a person
   int above_ = 1;         ///< px from the edge to the text
 };

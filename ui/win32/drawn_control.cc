@@ -99,33 +99,46 @@ void DrawnControl::mouseMoved(WPARAM keys, LPARAM point) {
     invalidate();
   }
   hovered_ = true;
-  if (GetCapture() == window_ && held_ != inside) {
+  if (captures_ && (keys & MK_LBUTTON) != 0 && held_ != inside) {
     held_ = inside;
     invalidate();
   }
   onMove((keys & (MK_LBUTTON | MK_RBUTTON | MK_MBUTTON)) != 0);
 }
 
-bool DrawnControl::handleMouse(UINT message, WPARAM wparam, LPARAM lparam) {
-  const auto down = [&](MouseButton button) {
+void DrawnControl::mouseDown(MouseButton button) {
+  if (button != MouseButton::kRight) {
     if (button == MouseButton::kLeft) {
       form_.hideFocus();
       if (control_.design.tab >= 0) SetFocus(window_);
-      SetCapture(window_);
       held_ = true;
-      invalidate();
     }
-    onDown(button);
-  };
-  const auto up = [&](MouseButton button) {
-    const bool inside = held_;
-    if (button == MouseButton::kLeft) {
-      held_ = false;
-      ReleaseCapture();
-      invalidate();
-    }
-    onUp(button, inside);
-  };
+    captures_ = false;
+    SetCapture(window_);
+    captures_ = true;
+    invalidate();
+  }
+  onDown(button);
+}
+
+void DrawnControl::mouseUp(MouseButton button) {
+  const bool inside = held_;
+  if (button == MouseButton::kLeft) held_ = false;
+  if (button != MouseButton::kRight) {
+    captures_ = false;
+    ReleaseCapture();
+    invalidate();
+  }
+  onUp(button, inside);
+}
+
+void DrawnControl::letGo() {
+  captures_ = held_ = false;
+  invalidate();
+  onCancel();
+}
+
+bool DrawnControl::handleMouse(UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
     case WM_MOUSEMOVE:
       mouseMoved(wparam, lparam);
@@ -137,16 +150,23 @@ bool DrawnControl::handleMouse(UINT message, WPARAM wparam, LPARAM lparam) {
       return true;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
-      down(MouseButton::kLeft);
+      mouseDown(MouseButton::kLeft);
       return true;
     case WM_LBUTTONUP:
-      up(MouseButton::kLeft);
+      mouseUp(MouseButton::kLeft);
       return true;
     case WM_RBUTTONDOWN:
-      down(MouseButton::kRight);
+      mouseDown(MouseButton::kRight);
       return true;
     case WM_RBUTTONUP:
-      up(MouseButton::kRight);
+      mouseUp(MouseButton::kRight);
+      return true;
+    case WM_MBUTTONDOWN:
+    case WM_MBUTTONDBLCLK:
+      mouseDown(MouseButton::kMiddle);
+      return true;
+    case WM_MBUTTONUP:
+      mouseUp(MouseButton::kMiddle);
       return true;
     default:
       return false;
@@ -176,15 +196,16 @@ LRESULT DrawnControl::handle(UINT message, WPARAM wparam, LPARAM lparam) {
       break;
     }
     case WM_SETFOCUS:
+      invalidate();
+      break;
     case WM_KILLFOCUS:
     case WM_ENABLE:
       // While a button of the mouse is down on it, the focus may come and go.
-      if (GetCapture() != window_) held_ = false;
+      if (GetCapture() != window_) letGo();
       invalidate();
       break;
     case WM_CAPTURECHANGED:
-      held_ = false;
-      invalidate();
+      if (captures_) letGo();
       break;
     case WM_SETCURSOR:
       if (!showsHand() || LOWORD(lparam) != HTCLIENT) break;
@@ -192,6 +213,11 @@ LRESULT DrawnControl::handle(UINT message, WPARAM wparam, LPARAM lparam) {
       return TRUE;
     case WM_KEYDOWN:
     case WM_KEYUP:
+      // A key that is held presses once: a press may start a run.
+      if ((wparam == VK_RETURN || wparam == VK_SPACE) && message == WM_KEYDOWN &&
+          isRepeated(lparam)) {
+        return 0;
+      }
       if (onKey(wparam, message == WM_KEYDOWN)) return 0;
       break;
     default: {

@@ -32,6 +32,8 @@ class DrawnControl : public BoundControl, private AccessibleSource {
   virtual void onLeave() {}
   virtual void onDown(MouseButton /*button*/) {}
   virtual void onUp(MouseButton /*button*/, bool /*inside*/) {}
+  /// A button or a key that is down on it will not come up there.
+  virtual void onCancel() {}
   virtual bool onKey(WPARAM /*key*/, bool /*down*/) { return false; }
   /// The questions that a native control of its kind answers; 0 for any other.
   virtual LRESULT asked(UINT /*message*/) const { return 0; }
@@ -49,12 +51,16 @@ class DrawnControl : public BoundControl, private AccessibleSource {
   LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam);
   bool handleMouse(UINT message, WPARAM wparam, LPARAM lparam);
   void mouseMoved(WPARAM keys, LPARAM point);
+  void mouseDown(MouseButton button);
+  void mouseUp(MouseButton button);
+  void letGo();
   DrawnState state() const;
   AccessibleFacts accessibleFacts() const override;
   std::string accessibleShortcut() const override;
   void accessiblePress() override;
 
   AccessibleLink accessible_{*this};
+  bool captures_ = false;  ///< the mouse, for as long as a button is down
   std::string drawn_;
   std::string caption_;  ///< the window's text
 };

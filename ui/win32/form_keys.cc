@@ -107,19 +107,24 @@ bool FormWindow::serveAccessKey(WPARAM character) {
 
 // Buttons and links make something of Enter themselves, and so does a list that
 // has dropped down.
-bool FormWindow::pressDefault() {
+bool FormWindow::pressDefault(bool repeated) {
   const Control* const at = focused();
   if (!at || at->design.kind == ControlKind::kButton || at->design.kind == ControlKind::kLabel ||
       at->design.kind == ControlKind::kToolbarButton) {
     return false;
   }
-  const BoundControl* const bound = boundOf(*at);
-  const bool combo = at->design.kind == ControlKind::kComboBox;
-  if (combo && SendMessageW(bound->window(), CB_GETDROPPEDSTATE, 0, 0) != FALSE) return false;
+  if (hasOpenList()) return false;
   Button* const button = defaultButton(form_);
   if (!button) return false;
+  if (repeated) return true;
   actions_.post(this, [button] { button->press(); });
   return true;
+}
+
+bool FormWindow::hasOpenList() const {
+  const Control* const at = focused();
+  if (!at || at->design.kind != ControlKind::kComboBox) return false;
+  return SendMessageW(boundOf(*at)->window(), CB_GETDROPPEDSTATE, 0, 0) != FALSE;
 }
 
 // An open list closes as by the button that opened it.
@@ -140,12 +145,13 @@ bool FormWindow::serveKey(const MSG& message) {
         moveFocus(GetKeyState(VK_SHIFT) < 0);
         return true;
       }
+      if (message.wParam == VK_ESCAPE && hasOpenList()) return false;
       if (message.wParam == VK_ESCAPE && !events_.has_task_button) {
         if (events_.close) actions_.post(this, events_.close);
         return true;
       }
       if (message.wParam == VK_ESCAPE) return closeList();
-      return message.wParam == VK_RETURN && pressDefault();
+      return message.wParam == VK_RETURN && pressDefault(isRepeated(message.lParam));
     case WM_SYSKEYDOWN:
       if (message.wParam == VK_MENU) showCues(true);
       return false;

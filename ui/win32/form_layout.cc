@@ -15,6 +15,21 @@ constexpr int kCornerRadius = 8;
 constexpr int kUsualDpi = 96;
 constexpr int kSentenceGap = 8;  // px at 96 dpi
 
+// A form that is larger than the screen keeps the end of its strip in sight,
+// where its buttons are.
+POINT intoWorkArea(POINT at, SIZE size, bool right_to_left) {
+  const RECT wanted{at.x, at.y, at.x + size.cx, at.y + size.cy};
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof(monitor);
+  if (!GetMonitorInfoW(MonitorFromRect(&wanted, MONITOR_DEFAULTTONEAREST), &monitor)) return at;
+  const RECT& work = monitor.rcWork;
+  const bool too_wide = size.cx > work.right - work.left;
+  at.x = std::max(std::min(at.x, work.right - size.cx), work.left);
+  if (too_wide && !right_to_left) at.x = work.right - size.cx;
+  at.y = std::max(std::min(at.y, work.bottom - size.cy), work.top);
+  return at;
+}
+
 }  // namespace
 
 void FormWindow::takeDpi(int dpi) {
@@ -22,20 +37,26 @@ void FormWindow::takeDpi(int dpi) {
   const std::unique_ptr<Fonts> before = std::exchange(fonts_, std::make_unique<Fonts>(scale()));
   // The windows let go of the fonts before they are destroyed.
   for (const auto& [control, bound] : bound_) bound->sync();
+  if (tips_) tips_->setFont(fonts_->get(ControlFont()));
 }
 
 // A form keeps its middle whatever the resolution: its place is reckoned for
 // its size at 96 dpi.
-void FormWindow::layOut() {
+void FormWindow::layOut(const RECT* suggested) {
   const FormLook& look = lookOf(form_);
   const int full_height = form_.height + look.strip_above;
   const int width = px(form_.width);
   const int height = px(full_height);
+  POINT at{form_.left + (form_.width - width) / 2, form_.top + (full_height - height) / 2};
+  if (suggested) {
+    at = {suggested->left, suggested->top};
+  } else {
+    at = intoWorkArea(at, {width, height}, right_to_left_);
+  }
   placing_ = true;
-  SetWindowPos(window_, nullptr, form_.left + (form_.width - width) / 2,
-               form_.top + (full_height - height) / 2, width, height,
-               SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowPos(window_, nullptr, at.x, at.y, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
   placing_ = false;
+  if (suggested) takePosition();
   shapeCorners({width, height});
   InvalidateRect(window_, nullptr, FALSE);
 }

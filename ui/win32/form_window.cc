@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/win32/held_windows.h"
 #include "platform/win32/wide.h"
 #include "ui/win32/accessible_name.h"
 #include "ui/win32/accessible_order.h"
@@ -19,7 +20,7 @@ namespace {
 
 constexpr wchar_t kClass[] = L"TavrForm";
 constexpr COLORREF kMaskColor = 0xFF00FF;
-constexpr DWORD kStyle = WS_POPUP | WS_CLIPCHILDREN | WS_MINIMIZEBOX | WS_SYSMENU;
+constexpr DWORD kStyle = WS_POPUP | WS_CLIPCHILDREN | WS_SYSMENU;
 
 }  // namespace
 
@@ -52,7 +53,9 @@ FormWindow::FormWindow(Form& form, HWND owner, ActionQueue& actions, Dialogs& di
     : form_(form), actions_(actions), events_(std::move(events)) {
   registerClass();
   const DWORD extended = WS_EX_CONTROLPARENT | (events_.has_task_button ? WS_EX_APPWINDOW : 0U);
-  window_ = CreateWindowExW(extended, kClass, wide(form.caption).c_str(), kStyle, 0, 0, 0, 0, owner,
+  // A form without a task button would not come back.
+  const DWORD style = kStyle | (events_.has_task_button ? WS_MINIMIZEBOX : 0U);
+  window_ = CreateWindowExW(extended, kClass, wide(form.caption).c_str(), style, 0, 0, 0, 0, owner,
                             nullptr, GetModuleHandleW(nullptr), this);
   SetPropW(window_, wide(form.name()).c_str(), window_);
   shape_ = std::make_unique<TransForm>(window_, dialogs);
@@ -97,18 +100,22 @@ void FormWindow::takeLook(COLORREF strip, bool right_to_left) {
     bound_.clear();
     ordered_ = 0;
     tips_ = std::make_unique<ToolTips>(window_, right_to_left);
+    tips_->setFont(fonts_->get(ControlFont()));
   }
   RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
 void FormWindow::sync(COLORREF strip, bool right_to_left, bool may_show) {
-  if (strip != strip_ || right_to_left != right_to_left_ || !tips_) takeLook(strip, right_to_left);
+  const bool turned = right_to_left != right_to_left_;
+  if (strip != strip_ || turned || !tips_) takeLook(strip, right_to_left);
   if (form_.left != placed_left_ || form_.top != placed_top_) {
     placed_left_ = form_.left;
     placed_top_ = form_.top;
     layOut();
   }
   syncControls();
+  // The window that had the focus has gone with the direction.
+  if (turned && GetActiveWindow() == window_) focusFirst();
   syncFrame(may_show);
 }
 
@@ -121,18 +128,26 @@ void FormWindow::syncFrame(bool may_show) {
   }
   const long role = events_.has_task_button ? 0 : ROLE_SYSTEM_DIALOG;
   annotation_.show(window_, accessibleFormName(form_), role);
-  // A message box disables the window by itself: only what the form says anew is done.
-  if (form_.enabled != enabled_) {
-    enabled_ = form_.enabled;
-    EnableWindow(window_, enabled_ ? TRUE : FALSE);
+  // A message box that is open holds every window.
+  if (!HeldWindows::any() && form_.enabled != (IsWindowEnabled(window_) != FALSE)) {
+    EnableWindow(window_, form_.enabled ? TRUE : FALSE);
   }
   if (form_.topmost != topmost_) {
     topmost_ = form_.topmost;
     SetWindowPos(window_, topmost_ ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
-  const bool show = form_.visible && may_show;
-  if (show == (IsWindowVisible(window_) != FALSE)) return;
+  syncShown(form_.visible && may_show);
+}
+
+void FormWindow::syncShown(bool show) {
+  const bool again = std::exchange(shown_again_, form_.shown_again) != form_.shown_again;
+  // What has made a form without a task button an icon, a person cannot undo.
+  const bool lost = show && !events_.minimise && IsIconic(window_);
+  if (show == (IsWindowVisible(window_) != FALSE) && !lost) {
+    if (show && again) SetForegroundWindow(window_);
+    return;
+  }
   ShowWindow(window_, show ? SW_SHOWNORMAL : SW_HIDE);
   if (show) SetForegroundWindow(window_);
 }
@@ -179,8 +194,8 @@ HWND FormWindow::windowOfHolder(const Control& control) {
 
 bool FormWindow::route(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& answer) {
   HWND from = reinterpret_cast<HWND>(lparam);
-  NMHDR* const notice = message == WM_NOTIFY ? reinterpret_cast<NMHDR*>(lparam) : nullptr;
-  if (notice) {
+  auto* const notice = reinterpret_cast<NMHDR*>(lparam);  // with WM_NOTIFY
+  if (message == WM_NOTIFY) {
     if (ToolTips::answer(*notice)) return true;
     from = notice->hwndFrom;
   }
@@ -197,7 +212,7 @@ bool FormWindow::route(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& answ
       answer = bound->onNotify(*notice);
       return true;
     case WM_VSCROLL:
-      bound->onScroll(LOWORD(wparam));
+      bound->onScroll(LOWORD(wparam), HIWORD(wparam));
       return true;
     case WM_CTLCOLORSCROLLBAR:
       return false;
@@ -209,8 +224,8 @@ bool FormWindow::route(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& answ
 
 LRESULT FormWindow::onSystemCommand(WPARAM wparam, LPARAM lparam) {
   const WPARAM command = wparam & 0xFFF0;
-  if (command == SC_MINIMIZE && events_.minimise) {
-    actions_.post(this, events_.minimise);
+  if (command == SC_MINIMIZE) {
+    if (events_.minimise) actions_.post(this, events_.minimise);
     return 0;
   }
   // ALT alone shows the access keys and opens no menu; ALT and the space bar do.
@@ -233,9 +248,13 @@ LRESULT FormWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_MOVE:
       takePosition();
       break;
+    case WM_SIZE:
+      // The system makes an icon of it without asking, too.
+      if (wparam == SIZE_MINIMIZED && events_.minimise) actions_.post(this, events_.minimise);
+      break;
     case WM_DPICHANGED:
       takeDpi(HIWORD(wparam));
-      layOut();
+      layOut(reinterpret_cast<const RECT*>(lparam));
       return 0;
     case WM_ACTIVATE:
       if (LOWORD(wparam) == WA_INACTIVE) {

@@ -99,10 +99,12 @@ class FormWindow {
 
   void takeDpi(int dpi);
   void takeLook(COLORREF strip, bool right_to_left);
-  void layOut();
+  /// `suggested` is the place that the system gives it, null for the form's own.
+  void layOut(const RECT* suggested = nullptr);
   void shapeCorners(SIZE size);
   void takePosition();
   void syncFrame(bool may_show);
+  void syncShown(bool show);
   void syncControls();
   BoundControl* boundOf(const Control& control) const;
   BoundControl* makeWindowOf(Control& control);
@@ -111,7 +113,8 @@ class FormWindow {
   void moveFocusFrom(Control& control);
 
   bool serveAccessKey(WPARAM character);
-  bool pressDefault();
+  bool pressDefault(bool repeated);
+  bool hasOpenList() const;
   bool closeList();
   void showCues(bool on);
 
@@ -148,7 +151,7 @@ class FormWindow {
   std::string language_;
   AccessibleAnnotation annotation_;
   bool topmost_ = false;
-  bool enabled_ = true;
+  int shown_again_ = 0;
 };
 
 }  // namespace tavr::win32

@@ -25,6 +25,13 @@ RECT centred(const RECT& area, int left, int size) {
   return {left, top, left + size, top + size};
 }
 
+// Without case. A character is at most three bytes to each of its units.
+bool beginsWith(std::string_view text, const std::wstring& typed) {
+  const std::wstring start = wide(text.substr(0, typed.size() * 3)).substr(0, typed.size());
+  return CompareStringOrdinal(start.data(), static_cast<int>(start.size()), typed.data(),
+                              static_cast<int>(typed.size()), TRUE) == CSTR_EQUAL;
+}
+
 // A mirrored list turns letters back by itself; a picture in it would be seen
 // from behind. Draws at the same place with the plain layout.
 template <class Draw>
@@ -138,6 +145,13 @@ void ReportList::syncOwn() {
   spreadColumns();
 }
 
+void ReportList::forgetRows() {
+  if (shown_rows_ == 0) return;
+  shown_rows_ = 0;
+  longest_ = 0;
+  ListView_SetItemCountEx(window_, 0, 0);
+}
+
 // Of those in sight alone: asked for more, a list may go through them all.
 void ReportList::redraw(std::size_t first, std::size_t last) {
   const int top = ListView_GetTopIndex(window_);
@@ -154,6 +168,8 @@ LRESULT ReportList::onNotify(NMHDR& notice) {
     case LVN_GETDISPINFOW:
       answerText(notice);
       return 0;
+    case LVN_ODFINDITEMW:
+      return findRow(notice);
     case NM_CLICK:
     case NM_DBLCLK:
       clicked(notice);
@@ -205,6 +221,24 @@ void ReportList::answerText(NMHDR& notice) const {
   if ((item.mask & LVIF_TEXT) == 0 || item.cchTextMax <= 0) return;
   const std::wstring text = wide(cell.text);
   lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
+}
+
+// What a person types goes on to the next row that begins so, from the last one
+// to the first.
+LRESULT ReportList::findRow(const NMHDR& notice) const {
+  constexpr LRESULT kNone = -1;
+  const auto& search = reinterpret_cast<const NMLVFINDITEMW&>(notice);
+  if ((search.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0) return kNone;
+  const std::size_t rows = std::min(rowCount(), shown_rows_);
+  const std::wstring typed = search.lvfi.psz == nullptr ? L"" : search.lvfi.psz;
+  const auto start = static_cast<std::size_t>(std::max(search.iStart, 0));
+  for (std::size_t i = 0; i < rows; ++i) {
+    const std::size_t row = (start + i) % rows;
+    Cell cell;
+    describe(row, 0, cell);
+    if (beginsWith(cell.text, typed)) return static_cast<LRESULT>(row);
+  }
+  return kNone;
 }
 
 LRESULT ReportList::onCustomDraw(NMHDR& notice) {

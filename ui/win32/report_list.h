@@ -49,6 +49,8 @@ class ReportList : public BoundControl {
   void syncOwn() override;
   void place(const RECT& box) override;
   void fontChanged() override;
+  /// None of the rows that are shown is there any more.
+  void forgetRows();
   /// Rows from 0 have changed.
   void redraw(std::size_t first, std::size_t last);
 
@@ -64,6 +66,7 @@ class ReportList : public BoundControl {
   void drawCell(HDC dc, RECT area, const Cell& cell);
   void drawBox(HDC dc, RECT& area, bool checked);
   void answerText(NMHDR& header) const;
+  LRESULT findRow(const NMHDR& header) const;
   void clicked(const NMHDR& header);
 
   HIMAGELIST row_height_ = nullptr;

@@ -27,6 +27,10 @@ void ToolTips::add(HWND window) {
   SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
+void ToolTips::setFont(HFONT font) {
+  SendMessageW(tips_, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+}
+
 bool ToolTips::answer(NMHDR& notice) {
   if (notice.code != TTN_GETDISPINFOW) return false;
   auto& info = reinterpret_cast<NMTTDISPINFOW&>(notice);

@@ -16,6 +16,8 @@ class ToolTips {
   ToolTips& operator=(const ToolTips&) = delete;
 
   void add(HWND window);
+  /// The caller keeps the font.
+  void setFont(HFONT font);
   /// Answers what a tip asks for; false when the notice is none of a tip.
   static bool answer(NMHDR& notice);
 

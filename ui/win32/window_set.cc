@@ -16,6 +16,9 @@ constexpr std::string_view kForms[] = {kMain,    "Form2",    "Form3", "Form4",
 // The title strip's own colour, where the configured one could not be read.
 constexpr COLORREF kDesignedStrip = 10118205;
 
+// Shown by Windows below the program's name.
+constexpr wchar_t kHoldsSession[] = L"Erasing before the session ends";
+
 constexpr std::string_view kRightToLeftLanguage = "ar";
 
 // The message form answers a question; closing it is the answer No.
@@ -60,7 +63,7 @@ FormEvents WindowSet::eventsOf(std::string_view name) {
   return events;
 }
 
-bool WindowSet::onMainMessage(UINT message, WPARAM wparam, LPARAM /*lparam*/, LRESULT& answer) {
+bool WindowSet::onMainMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& answer) {
   switch (message) {
     case WM_HOTKEY:
       actions_.post(this, [this, id = static_cast<int>(wparam)] {
@@ -68,7 +71,7 @@ bool WindowSet::onMainMessage(UINT message, WPARAM wparam, LPARAM /*lparam*/, LR
       });
       return true;
     case WM_QUERYENDSESSION:
-      answer = TRUE;
+      answer = holdsSession(lparam) ? FALSE : TRUE;
       return true;
     case WM_ENDSESSION:
       if (wparam != FALSE) endSession();
@@ -78,9 +81,32 @@ bool WindowSet::onMainMessage(UINT message, WPARAM wparam, LPARAM /*lparam*/, LR
   }
 }
 
+// A run on exit takes longer than Windows waits for a program. The session is
+// held until it is over, and then ends by itself.
+bool WindowSet::holdsSession(LPARAM reasons) {
+  if (closing_) return true;
+  bool runs = false;
+  ResumeNext on;
+  on.next([&] { runs = runsOnExit(program_); });
+  if (!runs || (reasons & ENDSESSION_CRITICAL) != 0) return false;
+  closing_ = true;
+  ShutdownBlockReasonCreate(mainWindow(), kHoldsSession);
+  actions_.post(this, [this] { closeForSession(); });
+  return true;
+}
+
+void WindowSet::closeForSession() {
+  ResumeNext on;
+  on.next([this] { closeWindow(program_); });
+  // A run that was there before goes on.
+  closing_ = false;
+  ShutdownBlockReasonDestroy(mainWindow());
+}
+
 // Windows ends the process when this message has been answered, so the closing
 // cannot wait for the pump. What it throws is thrown there.
 void WindowSet::endSession() {
+  if (closing_) return;
   try {
     closeWindow(program_);
   } catch (const ProcessEnd&) {

@@ -32,6 +32,8 @@ class WindowSet {
  private:
   FormEvents eventsOf(std::string_view name);
   bool onMainMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& answer);
+  bool holdsSession(LPARAM reasons);
+  void closeForSession();
   void endSession();
   void syncForm(std::string_view name);
   void syncShadow(std::string_view name, FormWindow& window);
@@ -41,6 +43,7 @@ class WindowSet {
   ActionQueue& actions_;
   std::map<std::string_view, std::unique_ptr<FormWindow>> windows_;
   bool main_loaded_ = false;
+  bool closing_ = false;  ///< the session waits for the end of it
 };
 
 }  // namespace tavr::win32

@@ -10,6 +10,7 @@ namespace tavr::testing {
 namespace {
 
 constexpr DWORD kLook = 20;       // ms between two looks
+constexpr DWORD kRest = 500;      // ms
 constexpr DWORD kPaintTime = 80;  // ms that a redraw may be behind
 constexpr DWORD kDriveC = 4;
 constexpr wchar_t kBoxClass[] = L"#32770";
@@ -130,6 +131,13 @@ HWND DrivenProgram::find(std::string_view name) const {
                      [&](HWND window) { return GetPropW(window, property.c_str()) != nullptr; });
 }
 
+bool DrivenProgram::comesToFront(std::string_view form_name) const {
+  const HWND wanted = form(form_name);
+  if (!comes([&] { return GetForegroundWindow() == wanted; })) return false;
+  Sleep(kRest);
+  return GetForegroundWindow() == wanted;
+}
+
 HWND DrivenProgram::window(std::string_view control) const {
   HWND found = nullptr;
   comes([&] { return (found = find(control)) != nullptr; });
@@ -157,7 +165,9 @@ bool DrivenProgram::goes(std::string_view name) const {
 std::string DrivenProgram::text(std::string_view control) const { return textOf(window(control)); }
 
 bool DrivenProgram::checked(std::string_view control) const {
-  return SendMessageW(window(control), BM_GETCHECK, 0, 0) == BST_CHECKED;
+  DWORD_PTR state = 0;
+  SendMessageTimeoutW(window(control), BM_GETCHECK, 0, 0, SMTO_ABORTIFHUNG, kPatience, &state);
+  return state == BST_CHECKED;
 }
 
 bool DrivenProgram::enabled(std::string_view control) const {

@@ -39,6 +39,9 @@ class DrivenProgram {
   bool sees(std::string_view form_or_control) const;
   bool comesUp(std::string_view name) const;
   bool goes(std::string_view name) const;
+  /// Whether the form gets the keyboard, and everything around has come to rest:
+  /// a display that hands the keyboard on lets go of ALT.
+  bool comesToFront(std::string_view form_name) const;
   /// The window that shows the control. Raises std::runtime_error when there is none.
   HWND window(std::string_view control) const;
   HWND windowOfClass(std::wstring_view window_class) const;

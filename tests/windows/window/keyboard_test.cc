@@ -84,7 +84,7 @@ TEST_F(Keyboard, TheSpaceBarPressesWhenItIsLetGo) {
 
 TEST_F(Keyboard, AltShowsTheAccessKeysAndOneOfThemPresses) {
   start();
-  EXPECT_TRUE(hasFocus("Form1.cmd_settings"));
+  EXPECT_TRUE(program().comesToFront("Form1"));
   const auto before = program().pixels("Form1.cmd_option");
   INPUT alt{};
   alt.type = INPUT_KEYBOARD;

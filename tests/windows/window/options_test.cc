@@ -115,6 +115,9 @@ TEST_F(Options, ADueScheduleErasesByItself) {
 TEST_F(Options, AChangedStartPageIsAskedAboutAndPutBack) {
   set(settings::kMainKey, "protect_home", "1");
   set(settings::kMainKey, "homepage", "about:home");
+  constexpr wchar_t kOther[] = L"http://other.example/";
+  RegSetKeyValueW(HKEY_CURRENT_USER, L"software\\microsoft\\internet explorer\\main", L"Start Page",
+                  REG_SZ, kOther, sizeof(kOther));
   start();
   const HWND box = program().waitForBox(kTwoTicks);
   ASSERT_NE(box, nullptr);

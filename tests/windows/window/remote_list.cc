@@ -13,6 +13,14 @@ constexpr int kTextLength = 1024;
 constexpr int kBoxFromLeft = 20;    // px at 96 dpi, into the check box
 constexpr int kTextFromLeft = 120;  // px at 96 dpi, behind box and icon
 
+// A program that has crashed answers nothing.
+LRESULT ask(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+  constexpr UINT kLongEnough = 5000;  // ms
+  DWORD_PTR answer = 0;
+  SendMessageTimeoutW(window, message, wparam, lparam, SMTO_NORMAL, kLongEnough, &answer);
+  return static_cast<LRESULT>(answer);
+}
+
 // A message's parameter lies in the memory of the process that is asked.
 template <class Value>
 class Remote {
@@ -54,9 +62,7 @@ struct HeaderText {
 
 }  // namespace
 
-int RemoteList::rows() const {
-  return static_cast<int>(SendMessageW(list_, LVM_GETITEMCOUNT, 0, 0));
-}
+int RemoteList::rows() const { return static_cast<int>(ask(list_, LVM_GETITEMCOUNT, 0, 0)); }
 
 std::string RemoteList::text(int row, int column) const {
   ItemText asked;
@@ -67,7 +73,7 @@ std::string RemoteList::text(int row, int column) const {
   asked.item.cchTextMax = kTextLength;
   asked.item.pszText = reinterpret_cast<wchar_t*>(there.place() + offsetof(ItemText, text));
   there.set(asked);
-  SendMessageW(list_, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), there.parameter());
+  ask(list_, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), there.parameter());
   return win32::narrow(there.value().text);
 }
 
@@ -78,23 +84,23 @@ std::vector<std::string> RemoteList::column(int column) const {
 }
 
 std::string RemoteList::header(int column) const {
-  const HWND header = reinterpret_cast<HWND>(SendMessageW(list_, LVM_GETHEADER, 0, 0));
+  const HWND header = reinterpret_cast<HWND>(ask(list_, LVM_GETHEADER, 0, 0));
   HeaderText asked;
   Remote<HeaderText> there(process_, asked);
   asked.item.mask = HDI_TEXT;
   asked.item.cchTextMax = kTextLength;
   asked.item.pszText = reinterpret_cast<wchar_t*>(there.place() + offsetof(HeaderText, text));
   there.set(asked);
-  SendMessageW(header, HDM_GETITEMW, static_cast<WPARAM>(column), there.parameter());
+  ask(header, HDM_GETITEMW, static_cast<WPARAM>(column), there.parameter());
   return win32::narrow(there.value().text);
 }
 
 RECT RemoteList::bounds(int row) const {
-  SendMessageW(list_, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+  ask(list_, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
   RECT asked{};
   asked.left = LVIR_BOUNDS;
   Remote<RECT> there(process_, asked);
-  SendMessageW(list_, LVM_GETITEMRECT, static_cast<WPARAM>(row), there.parameter());
+  ask(list_, LVM_GETITEMRECT, static_cast<WPARAM>(row), there.parameter());
   return there.value();
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/win32/wide.h"
 #include "services/settings_keys.h"
+#include "tests/windows/window/task_bar.h"
 #include "tests/windows/window/window_test.h"
 
 namespace tavr::testing {
@@ -108,6 +109,32 @@ TEST_F(Run, TotalsAndProgressMoveDuringARun) {
   EXPECT_TRUE(comes([&] { return list("Form1.View200").rows() > before; }, kRun));
   EXPECT_EQ(status(kChromeRow), "Test Erasing");
   EXPECT_TRUE(program().enabled("Form1.cmd_stop"));
+}
+
+TEST_F(Run, TheWindowGoesToTheTrayAndComesBackDuringARun) {
+  plant(30000);
+  TaskBar bar;
+  start();
+  program().click("Form1.cmd_start");
+  EXPECT_TRUE(comes([this] { return list("Form1.View200").rows() > 100; }, kRun));
+  program().click("Form1.chameleonButton10");
+  EXPECT_TRUE(program().goes("Form1"));
+  ASSERT_TRUE(bar.showsIcon());
+  bar.mouse(WM_LBUTTONDOWN);
+  EXPECT_TRUE(program().comesUp("Form1"));
+  EXPECT_TRUE(program().enabled("Form1.cmd_stop"));
+  program().click("Form1.cmd_stop");
+  EXPECT_TRUE(finished());
+}
+
+TEST_F(Run, ClosingDuringARunEndsBoth) {
+  plant(30000);
+  start();
+  program().click("Form1.cmd_start");
+  EXPECT_TRUE(comes([this] { return list("Form1.View200").rows() > 100; }, kRun));
+  program().click("Form1.chameleonButton9");
+  EXPECT_EQ(program().waitForEnd(), 0U);
+  EXPECT_TRUE(exists(session(0)) || exists(session(29999)) || exists(session(15000)));
 }
 
 TEST_F(Run, StopIsServedAtOnceWhileManyFilesAreErased) {

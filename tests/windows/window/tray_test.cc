@@ -7,6 +7,7 @@ namespace tavr::testing {
 namespace {
 
 constexpr wchar_t kMenuClass[] = L"#32768";
+constexpr int kEraseEntry = 3;
 constexpr int kOptionsEntry = 4;  // steps down from above the first entry
 constexpr int kSettingsEntry = 5;
 constexpr int kExitEntry = 7;
@@ -76,6 +77,27 @@ TEST_F(Tray, TheMenuOpensTheOptions) {
   EXPECT_TRUE(program().comesUp("Form3"));
 }
 
+TEST_F(Tray, TheMenuErases) {
+  start();
+  minimise();
+  ASSERT_TRUE(bar.showsIcon());
+  choose(kEraseEntry);
+  EXPECT_TRUE(comes([] { return exists("eraselog.txt"); }));
+  EXPECT_TRUE(comes([this] { return list("Form1.View100").text(9, 1) == "Finished"; }));
+}
+
+TEST_F(Tray, TheMenuIsLeftWithoutAChoice) {
+  start();
+  minimise();
+  ASSERT_TRUE(bar.showsIcon());
+  bar.mouse(WM_RBUTTONDOWN);
+  EXPECT_TRUE(comes([this] { return program().windowOfClass(kMenuClass) != nullptr; }));
+  pressKey(VK_ESCAPE);
+  EXPECT_TRUE(comes([this] { return program().windowOfClass(kMenuClass) == nullptr; }));
+  bar.mouse(WM_LBUTTONDOWN);
+  EXPECT_TRUE(program().comesUp("Form1"));
+}
+
 TEST_F(Tray, TheMenuEndsTheProgramAndTheIconGoesWithIt) {
   start();
   minimise();
@@ -110,6 +132,7 @@ TEST_F(Stealth, MinimisingShowsNoIcon) {
 
 TEST_F(Stealth, TheHotKeyHidesTheWindowAndBringsItBack) {
   start();
+  EXPECT_TRUE(program().comesToFront("Form1"));
   pressKey('S', VK_MENU);
   EXPECT_TRUE(program().goes("Form1"));
   EXPECT_TRUE(program().running());
@@ -121,6 +144,7 @@ TEST_F(Stealth, TheHotKeyClosesTheDialogsToo) {
   start();
   program().click("Form1.cmd_settings");
   EXPECT_TRUE(program().comesUp("Form2"));
+  EXPECT_TRUE(program().comesToFront("Form2"));
   pressKey('S', VK_MENU);
   EXPECT_TRUE(program().goes("Form1"));
   EXPECT_TRUE(program().goes("Form2"));

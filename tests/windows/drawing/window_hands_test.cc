@@ -1,0 +1,207 @@
+// What the windows make of keys and the mouse beyond a plain click: what is held,
+// what is broken off, and what a native control does by itself.
+#include <gtest/gtest.h>
+#include <windows.h>
+// Behind windows.h.
+#include <commctrl.h>
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "tests/windows/accessible/shown_program.h"
+#include "ui/win32/form_window.h"
+
+namespace tavr::win32::testing {
+namespace {
+
+constexpr LPARAM kRepeated = LPARAM{KF_REPEAT} << 16;
+
+class WindowHands : public ::testing::Test {
+ protected:
+  void press(HWND window, WPARAM key, LPARAM data = 0) {
+    const MSG message{window, WM_KEYDOWN, key, data, 0, {}};
+    FormWindow* const form = FormWindow::of(window);
+    if (!form->serveKey(message)) {
+      SendMessageW(window, WM_KEYDOWN, key, data);
+      if (key == VK_ESCAPE) SendMessageW(window, WM_CHAR, key, data);
+    }
+    shown_.pump();
+  }
+  void send(HWND window, UINT message, WPARAM wparam = 0, LPARAM lparam = MAKELPARAM(5, 5)) {
+    SendMessageW(window, message, wparam, lparam);
+    shown_.pump();
+  }
+  Form1& main() { return shown_.program().form; }
+
+  ShownProgram shown_;
+};
+
+TEST_F(WindowHands, AKeyThatIsHeldPressesOnce) {
+  int clicks = 0;
+  for (Button* const button : std::initializer_list<Button*>{&main().cmd_clear, &main().cmd_test}) {
+    button->onClick = [&clicks] { ++clicks; };
+  }
+  const HWND button = shown_.window("Form1", "cmd_clear");
+  SetFocus(button);
+  press(button, VK_RETURN);
+  EXPECT_EQ(clicks, 1);
+  for (int i = 0; i < 5; ++i) press(button, VK_RETURN, kRepeated);
+  EXPECT_EQ(clicks, 1);
+  press(button, VK_RETURN);
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(WindowHands, TheMiddleButtonGoesDownAndUpButDoesNotClick) {
+  std::vector<std::string> told;
+  ChameleonButton& button = main().chameleonButton11;
+  button.onMouseDown = [&told](MouseButton which) {
+    told.push_back("down " + std::to_string(static_cast<int>(which)));
+  };
+  button.onMouseUp = [&told](MouseButton which) {
+    told.push_back("up " + std::to_string(static_cast<int>(which)));
+  };
+  button.onClick = [&told] { told.emplace_back("click"); };
+  const HWND window = shown_.window("Form1", "chameleonButton11");
+  send(window, WM_MBUTTONDOWN, MK_MBUTTON);
+  EXPECT_EQ(button.state(), ChameleonButton::State::kPressed);
+  send(window, WM_MBUTTONUP);
+  EXPECT_EQ(button.state(), ChameleonButton::State::kNormal);
+  EXPECT_EQ(told, (std::vector<std::string>{"down 4", "up 4"}));
+}
+
+TEST_F(WindowHands, AClickThatIsBrokenOffLetsTheButtonGo) {
+  int clicks = 0;
+  ChameleonButton& button = main().chameleonButton11;
+  button.onClick = [&clicks] { ++clicks; };
+  const HWND window = shown_.window("Form1", "chameleonButton11");
+  send(window, WM_LBUTTONDOWN, MK_LBUTTON);
+  ASSERT_EQ(button.state(), ChameleonButton::State::kPressed);
+  ReleaseCapture();
+  shown_.pump();
+  EXPECT_EQ(button.state(), ChameleonButton::State::kNormal);
+  send(window, WM_LBUTTONUP);
+  EXPECT_EQ(clicks, 0);
+  send(window, WM_LBUTTONDOWN, MK_LBUTTON);
+  send(window, WM_LBUTTONUP);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(WindowHands, TheSpaceBarThatIsHeldWhileTheFocusGoesDoesNotPress) {
+  int clicks = 0;
+  ChameleonButton& button = main().chameleonButton11;
+  button.onClick = [&clicks] { ++clicks; };
+  const HWND window = shown_.window("Form1", "chameleonButton11");
+  SetFocus(window);
+  press(window, VK_SPACE);
+  ASSERT_EQ(button.state(), ChameleonButton::State::kPressed);
+  SetFocus(shown_.window("Form1", "cmd_test"));
+  shown_.pump();
+  EXPECT_EQ(button.state(), ChameleonButton::State::kNormal);
+  send(window, WM_KEYUP, VK_SPACE);
+  EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(WindowHands, EveryPropertyThatIsDrawnRedrawsItsButton) {
+  ChameleonButton& button = main().chameleonButton11;
+  const HWND window = shown_.window("Form1", "chameleonButton11");
+  const auto redrawnBy = [&](auto& property, auto value) {
+    ValidateRect(window, nullptr);
+    property = value;
+    BoundControl::of(window)->sync();
+    return GetUpdateRect(window, nullptr, FALSE) != FALSE;
+  };
+  EXPECT_FALSE(redrawnBy(button.tag, "not drawn"));
+  EXPECT_TRUE(redrawnBy(button.text_color, 255));
+  EXPECT_TRUE(redrawnBy(button.hover_color, 255));
+  EXPECT_TRUE(redrawnBy(button.soft_bevel, !button.soft_bevel));
+  EXPECT_TRUE(redrawnBy(button.picture_normal, "a.bmp"));
+  EXPECT_TRUE(redrawnBy(button.special_effect, 1));
+  EXPECT_TRUE(redrawnBy(button.check_box_behaviour, true));
+}
+
+TEST_F(WindowHands, EscClosesAnOpenListBeforeTheForm) {
+  open(shown_, {"Form3", "cmd_plugin"});
+  HWND box = nullptr;
+  for (const BoundControl* const bound : shown_.shown("Form3")) {
+    if (dynamic_cast<ComboBox*>(&bound->control())) box = bound->window();
+  }
+  ASSERT_NE(box, nullptr);
+  SetFocus(box);
+  SendMessageW(box, CB_SHOWDROPDOWN, TRUE, 0);
+  ASSERT_TRUE(SendMessageW(box, CB_GETDROPPEDSTATE, 0, 0));
+  press(GetFocus(), VK_ESCAPE);
+  EXPECT_FALSE(SendMessageW(box, CB_GETDROPPEDSTATE, 0, 0));
+  ASSERT_NE(shown_.program().desk.loaded("Form3"), nullptr);
+  press(GetFocus(), VK_ESCAPE);
+  EXPECT_EQ(shown_.program().desk.loaded("Form3"), nullptr);
+}
+
+TEST_F(WindowHands, AListThatIsLeftWithoutAChoiceShowsTheTextOfTheForm) {
+  open(shown_, {"Form3", "cmd_plugin"});
+  auto& box = dynamic_cast<ComboBox&>(shown_.control("Form3", "Combo1"));
+  const HWND window = shown_.window("Form3", "Combo1");
+  ASSERT_NE(window, nullptr);
+  box.setText("k");
+  shown_.pump();
+  SetWindowTextW(window, L"z");
+  send(GetParent(window), WM_COMMAND, MAKEWPARAM(0, CBN_SELENDCANCEL),
+       reinterpret_cast<LPARAM>(window));
+  wchar_t text[8] = L"";
+  GetWindowTextW(window, text, 8);
+  EXPECT_STREQ(text, L"k");
+}
+
+TEST_F(WindowHands, BehindWhatIsTypedTheCaretStandsAtTheEndOfAnInterval) {
+  open(shown_, {"Form3", "chameleonButton8"});
+  auto& box = dynamic_cast<TextBox&>(shown_.control("Form3", "Text1"));
+  box.setText("12");
+  shown_.pump();
+  const HWND window = shown_.window("Form3", "Text1");
+  SendMessageW(window, EM_SETSEL, 0, 0);
+  send(window, WM_CHAR, L'7', 1);
+  EXPECT_EQ(box.text(), "712");
+  DWORD from = 0;
+  DWORD to = 0;
+  SendMessageW(window, EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&to));
+  EXPECT_EQ(from, 3U);
+  EXPECT_EQ(to, 3U);
+}
+
+TEST_F(WindowHands, AScrollBarGoesToItsEndsAndWhereItIsDragged) {
+  open(shown_, {"Form3", "chameleonButton8"});
+  auto& bar = dynamic_cast<ScrollBar&>(shown_.control("Form3", "VScroll1"));
+  const HWND window = shown_.window("Form3", "VScroll1");
+  const auto scrolled = [&](int code, int position = 0) {
+    send(GetParent(window), WM_VSCROLL, MAKEWPARAM(code, position),
+         reinterpret_cast<LPARAM>(window));
+    return bar.value();
+  };
+  EXPECT_EQ(scrolled(SB_BOTTOM), bar.max);
+  EXPECT_EQ(scrolled(SB_LINEUP), bar.max - 1);
+  EXPECT_EQ(scrolled(SB_THUMBPOSITION, 7), 7);
+  EXPECT_EQ(scrolled(SB_TOP), bar.min);
+}
+
+TEST(WindowHandsRightToLeft, LeftGoesBackOnEveryKindOfControl) {
+  ShownProgram shown("ar");
+  open(shown, {"Form2", "cmd_plugin"});
+  const auto after = [&shown](WPARAM key) {
+    SendMessageW(GetFocus(), WM_KEYDOWN, key, 0);
+    shown.pump();
+    return GetFocus();
+  };
+  const HWND box = shown.window("Form2", "Check1(44)");
+  SetFocus(box);
+  const HWND behind_box = after(VK_RIGHT);
+  EXPECT_NE(behind_box, box);
+  EXPECT_EQ(after(VK_LEFT), box);
+  const HWND button = shown.window("Form2", "cmd_plugin");
+  SetFocus(button);
+  const HWND behind_button = after(VK_RIGHT);
+  EXPECT_EQ(behind_button, shown.window("Form2", "chameleonButton30"));
+  EXPECT_EQ(after(VK_LEFT), button);
+}
+
+}  // namespace
+}  // namespace tavr::win32::testing
