@@ -55,6 +55,9 @@ class ReportList : public BoundControl {
   void redraw(std::size_t first, std::size_t last);
 
  private:
+  static constexpr int kPadding = 12;  // px before and behind a text
+  static constexpr int kSign = 16;     // px of an icon or a check box
+
   static LRESULT CALLBACK headerProcedure(HWND, UINT, WPARAM, LPARAM, UINT_PTR, DWORD_PTR);
   HWND headerWindow() const;
   void makeColumns();
