@@ -3,9 +3,9 @@
 // Names have no 8.3 forms here.
 #pragma once
 
-#include <cstdint>
-#include <string>
 #include <string_view>
+
+#include "basic/name_expression.h"
 
 namespace tavr::folder {
 
@@ -23,7 +23,7 @@ class NamePattern {
   bool matchesEveryName() const { return every_; }
 
  private:
-  std::u16string expression_;  // upper-cased, with the wildcards as translated
+  NameExpression<char16_t> expression_;  // upper-cased
   bool every_ = false;
 };
 

@@ -50,17 +50,17 @@ Win32Events::~Win32Events() = default;
 void Win32Events::doEvents() {
   const std::uint64_t now = tickCount();
   if (now != last_pump_) pump();
-  if (now >= next_due_) fireDue(now);
+  if (now >= timers_.nextDue()) timers_.fire(now);
 }
 
 void Win32Events::wait(std::uint32_t milliseconds) {
   const std::uint64_t end = tickCount() + milliseconds;
   for (;;) {
     const bool goes_on = pump();
-    if (tickCount() >= next_due_) fireDue(tickCount());
+    if (tickCount() >= timers_.nextDue()) timers_.fire(tickCount());
     const std::uint64_t now = tickCount();
     if (now >= end) return;
-    const std::uint64_t until = std::min(end, next_due_);
+    const std::uint64_t until = std::min(end, timers_.nextDue());
     if (until > now) sleep(until - now, goes_on);
   }
 }
@@ -99,47 +99,10 @@ void Win32Events::sleep(std::uint64_t milliseconds, bool wake_for_messages) {
 }
 
 TimerId Win32Events::startTimer(std::uint32_t interval_ms, std::function<void()> on_tick) {
-  const std::uint32_t interval = std::max(interval_ms, 1U);
-  timers_.push_back({++last_id_, interval, tickCount() + interval,
-                     std::make_shared<std::function<void()>>(std::move(on_tick))});
-  findNextDue();
-  return last_id_;
+  return timers_.start(tickCount(), interval_ms, std::move(on_tick));
 }
 
-void Win32Events::stopTimer(TimerId id) {
-  std::erase_if(timers_, [id](const Timer& timer) { return timer.id == id; });
-  findNextDue();
-}
-
-void Win32Events::fireDue(std::uint64_t now) {
-  std::vector<std::pair<std::uint64_t, TimerId>> due;
-  for (const Timer& timer : timers_) {
-    if (timer.due <= now) due.emplace_back(timer.due, timer.id);
-  }
-  std::sort(due.begin(), due.end());
-  for (const auto& [at, id] : due) {
-    // A handler before this one may have stopped the timer, or pumped and so
-    // served it.
-    Timer* const next = timer(id);
-    if (next == nullptr || next->due != at) continue;
-    // Set before the handler runs: it may pump until its own timer is due again.
-    next->due += next->interval * ((now - at) / next->interval + 1);
-    findNextDue();
-    const std::shared_ptr<std::function<void()>> handler = next->on_tick;
-    (*handler)();
-  }
-}
-
-void Win32Events::findNextDue() {
-  next_due_ = kNever;
-  for (const Timer& timer : timers_) next_due_ = std::min(next_due_, timer.due);
-}
-
-Win32Events::Timer* Win32Events::timer(TimerId id) {
-  const auto found = std::find_if(timers_.begin(), timers_.end(),
-                                  [id](const Timer& timer) { return timer.id == id; });
-  return found == timers_.end() ? nullptr : &*found;
-}
+void Win32Events::stopTimer(TimerId id) { timers_.stop(id); }
 
 Win32Events::ModalLoop::ModalLoop(Win32Events& events)
     : events_(events),
@@ -161,7 +124,7 @@ void Win32Events::ModalLoop::serve() {
   if (thrown_) return;
   try {
     const std::uint64_t now = tickCount();
-    if (now >= events_.next_due_) events_.fireDue(now);
+    if (now >= events_.timers_.nextDue()) events_.timers_.fire(now);
     // What came in meanwhile: a hot key, a click on the icon, the closing.
     if (events_.after_) events_.after_();
   } catch (...) {

@@ -6,10 +6,9 @@
 #include <cstdint>
 #include <exception>
 #include <functional>
-#include <limits>
 #include <memory>
-#include <vector>
 
+#include "basic/due_timers.h"
 #include "platform/events.h"
 
 struct tagMSG;  // MSG
@@ -65,31 +64,17 @@ class Win32Events : public Events {
   };
 
  private:
-  static constexpr std::uint64_t kNever = std::numeric_limits<std::uint64_t>::max();
-
-  struct Timer {
-    TimerId id = 0;
-    std::uint32_t interval = 1;
-    std::uint64_t due = 0;
-    // Shared: a handler may stop its own timer while it runs.
-    std::shared_ptr<std::function<void()>> on_tick;
-  };
   struct WaitableTimer;
 
   /// False: the message that ends the program is there. It stays.
   bool pump();
   void sleep(std::uint64_t milliseconds, bool wake_for_messages);
-  void fireDue(std::uint64_t now);
-  void findNextDue();
-  Timer* timer(TimerId id);
 
   std::function<bool(tagMSG&)> filter_;
   std::function<void()> after_;
   std::unique_ptr<WaitableTimer> waitable_;
-  std::vector<Timer> timers_;
-  std::uint64_t next_due_ = kNever;
-  std::uint64_t last_pump_ = kNever;
-  TimerId last_id_ = 0;
+  DueTimers timers_;
+  std::uint64_t last_pump_ = DueTimers::kNever;
 };
 
 }  // namespace tavr::win32

@@ -3,8 +3,9 @@
 // which Windows matches too, find nothing.
 #pragma once
 
-#include <string>
 #include <string_view>
+
+#include "basic/name_expression.h"
 
 namespace tavr::win32 {
 
@@ -25,7 +26,7 @@ class NamePattern {
 
   bool every_ = false;
   bool has_wildcard_ = false;
-  std::wstring expression_;
+  NameExpression<wchar_t> expression_;
 };
 
 }  // namespace tavr::win32

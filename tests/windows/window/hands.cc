@@ -38,13 +38,21 @@ void sendKey(int key, bool down) {
 }  // namespace
 
 void movePointer(POINT screen) {
+  constexpr int kTries = 20;
   const int width = GetSystemMetrics(SM_CXSCREEN);
   const int height = GetSystemMetrics(SM_CYSCREEN);
   // Rounded up, so that the whole way back gives the pixel again.
   const POINT at{(screen.x * kWholeScreen + width - 2) / (width - 1),
                  (screen.y * kWholeScreen + height - 2) / (height - 1)};
-  sendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, at);
-  Sleep(kMoment);
+  // The display tells of earlier movements late, which takes the pointer back.
+  for (int rested = 0, tries = 0; rested < 2 && tries < kTries; ++tries) {
+    POINT now{};
+    GetCursorPos(&now);
+    const bool there = tries > 0 && now.x == screen.x && now.y == screen.y;
+    rested = there ? rested + 1 : 0;
+    if (!there) sendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, at);
+    Sleep(kMoment);
+  }
 }
 
 void pressMouse(bool right) {

@@ -90,6 +90,7 @@ class KeepList : public WindowTest {
     program_ = std::make_unique<DrivenProgram>("Form52", L"form_alone.exe");
     ASSERT_TRUE(program_->comesUp("Form52.List1"));
     ASSERT_TRUE(comes([this] { return rows("Form52.List1").size() == 2; }));
+    program_->comesToFront("Form52");
   }
   void TearDown() override { program_.reset(); }
 
