@@ -211,13 +211,25 @@ std::vector<COLORREF> DrivenProgram::look(HWND window) const {
   return picture;
 }
 
+// A window that has just been made may be seen before it stands in its place.
+HWND DrivenProgram::placed(std::string_view control) const {
+  const HWND found = window(control);
+  RECT place{};
+  comes([&] {
+    const RECT before = place;
+    GetWindowRect(found, &place);
+    return IsWindowVisible(found) && !IsRectEmpty(&place) && EqualRect(&before, &place);
+  });
+  return found;
+}
+
 void DrivenProgram::click(std::string_view control) const {
-  const HWND at = window(control);
+  const HWND at = placed(control);
   clickAt(at, middleOf(at));
 }
 
 void DrivenProgram::hover(std::string_view control) const {
-  const HWND at = window(control);
+  const HWND at = placed(control);
   POINT point = middleOf(at);
   ClientToScreen(at, &point);
   movePointer({point.x + 1, point.y + 1});

@@ -63,6 +63,7 @@ class DrivenProgram {
  private:
   std::vector<COLORREF> look(HWND window) const;
   HWND find(std::string_view name) const;
+  HWND placed(std::string_view control) const;
 
   HANDLE process_ = nullptr;
   DWORD id_ = 0;
