@@ -135,8 +135,8 @@ void Form2Code::readBox(int index) {
 
 void Form2Code::Check1_Click(int index) {
   Machine& machine = context_.machine;
-  GrantKeyAccess(machine, Root::kLocalMachine, settings::kSelectionKey,
-                 machine.environment.get("UserName"));
+  context_.host.form1().grant_failed = !GrantKeyAccess(
+      machine, Root::kLocalMachine, settings::kSelectionKey, machine.environment.get("UserName"));
   context_.registry.saveSetting(settings::kSelectionKey, numberText(index),
                                 numberText(form.Check1[at(index)].value()));
   if (index != kTickAll && index != kTickNone) return;
@@ -195,9 +195,9 @@ void Form2Code::chameleonButton3_Click() {
 }
 
 void Form2Code::openKeepList(std::string_view heading, std::string_view mode) {
-  form.topmost = false;
+  form.setTopmost(false);
   context_.host.openKeepList(heading, mode);
-  form.topmost = true;
+  form.setTopmost(true);
 }
 
 void Form2Code::chameleonButton4_Click() {

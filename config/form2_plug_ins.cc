@@ -105,12 +105,12 @@ void Form2Code::importPlugIn() {
   (void)machine.files.copy(path, programFile(machine, "plugins\\" + std::string(name)));
 }
 
-// The browser comes up behind a top-most form.
+// A browser that comes at once is not hidden by the form.
 void Form2Code::downloadPlugIns() {
-  form.topmost = false;
+  form.setTopmost(false);
   context_.machine.shell.execute("open", std::string(kMakerSite) + std::string(kPlugInPage),
                                  kShowNormal);
-  form.topmost = true;
+  form.setTopmost(true);
 }
 
 void Form2Code::runPlugInMaker() {

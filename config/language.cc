@@ -125,7 +125,8 @@ void Language::apply(Form& form) {
   if (form.name() != "frmabout") on.next([&] { langindex = toInteger(setting("langindex")); });
   file_name = "tavrwipe-" + lang + ".lang";
   const std::string path = programFile(machine_, "lang\\" + file_name);
-  if (on.met([&] { return Dir(machine_, path).empty(); })) return;
+  has_file = !on.met([&] { return Dir(machine_, path).empty(); });
+  if (!has_file) return;
   const ControlFont font = captionFont(registry_, langcode);
   const std::span<const std::string_view> keys = languageKeys(form.name());
   for (const std::string_view key : keys) {

@@ -15,6 +15,16 @@
 
 namespace tavr {
 
+namespace {
+
+// Its own code gives the form no place.
+void placeOver(Form& form, const Form& opener) {
+  form.left = opener.left + (opener.width - form.width) / 2;
+  form.top = opener.top + (opener.height - form.height) / 2;
+}
+
+}  // namespace
+
 FormDesk::FormDesk(Program& program)
     : program_(program),
       context_{program.machine, program.registry, program.numbers,
@@ -82,7 +92,11 @@ void FormDesk::openBrowserNote(std::string_view browser) {
 }
 
 void FormDesk::openKeepList(std::string_view heading, std::string_view mode) {
-  open(keep_list_).open(heading, mode);
+  const bool is_open = keep_list_ != nullptr;
+  Form52Code& list = open(keep_list_);
+  const Form& opener = settings_ ? static_cast<const Form&>(settings_->form) : program_.form;
+  if (!is_open) placeOver(list.form, opener);
+  list.open(heading, mode);
 }
 
 void FormDesk::loadLanguages() {

@@ -82,9 +82,10 @@ void Command6_Click(Program& program) {
 // A combination that is taken is not noticed: the procedure stays and never
 // sees the message.
 void installHotKey(Program& program) {
+  const bool stealth = option(program, "5");
   const std::string setting = program.registry.setting(settings::kMainKey, "key");
   const std::string_view key = Trim(setting);
-  if (key.empty() || !option(program, "5")) return;
+  if (key.empty() || !stealth) return;
   program.hot_key_installed = true;
   program.hot_key_count += 1;
   std::size_t pos = 0;

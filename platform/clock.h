@@ -34,8 +34,9 @@ class Locale {
   virtual std::string longTime(const LocalTime& time) = 0;
   /// The date that a text in these forms stands for, with or without a time
   /// behind it, or the time alone, as a date value: days since 30 December 1899,
-  /// the time of day as a fraction. Whatever shortDate and longTime write is read back. Nothing:
-  /// the text is no date.
+  /// the time of day as a fraction. What shortDate and longTime write is read back but in
+  /// a few locales, whose forms the system writes and does not read. Nothing: the text is
+  /// no date.
   virtual std::optional<double> dateValue(std::string_view text) = 0;
   /// The sign between whole and fraction.
   virtual char decimalSign() = 0;

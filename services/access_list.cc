@@ -69,7 +69,7 @@ std::size_t AccessList::bytesInUse() const {
 }
 
 bool AccessList::add(AccessEntry entry) {
-  if (bytesInUse() + entry.bytes().size() > size_) return false;
+  if (size_ > kLongest || bytesInUse() + entry.bytes().size() > size_) return false;
   entries_.push_back(std::move(entry));
   return true;
 }

@@ -43,8 +43,11 @@ class AccessEntry {
 class AccessList {
  public:
   static constexpr std::size_t kHeaderSize = 8;
+  /// The header counts its bytes in 16 bits.
+  static constexpr std::size_t kLongest = 0xFFFF;
 
-  /// InitializeAcl with revision 2: an empty list with room for `size` bytes.
+  /// InitializeAcl with revision 2: an empty list with room for `size` bytes; for
+  /// more than the longest it fails, and nothing can be added.
   explicit AccessList(std::size_t size) : size_(size) {}
   /// A list as an object gave it. One that ends within an entry loses that entry
   /// and all behind it.

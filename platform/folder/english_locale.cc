@@ -23,9 +23,12 @@ constexpr int kLastShortYear = 29;
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
-// The numbers of a text that holds nothing but numbers and, between them, one
-// sign each; empty for any other text.
-std::vector<int> numbersIn(std::string_view text) {
+constexpr std::string_view kDateSigns = "/-.";
+constexpr std::string_view kTimeSigns = ":";
+
+// The numbers of a text that holds nothing but numbers and, between them, one of
+// the signs each; empty for any other text.
+std::vector<int> numbersIn(std::string_view text, std::string_view signs) {
   constexpr std::size_t kMostDigits = 4;
   std::vector<int> numbers;
   for (std::size_t i = 0; i < text.size();) {
@@ -35,6 +38,7 @@ std::vector<int> numbersIn(std::string_view text) {
     if (end == i || end - i > kMostDigits) return {};
     numbers.push_back(number);
     if (end == text.size()) return numbers;
+    if (signs.find(text[end]) == signs.npos) return {};
     i = end + 1;
   }
   return {};  // empty, or a sign at the end
@@ -52,8 +56,8 @@ std::optional<double> timeOfDay(std::string_view text) {
   const bool morning = digits.ends_with(" AM");
   const bool evening = digits.ends_with(" PM");
   if (morning || evening) digits.remove_suffix(3);
-  std::vector<int> parts = numbersIn(digits);
-  if (parts.size() < 2 || parts.size() > 3 || digits.find(':') == digits.npos) return {};
+  std::vector<int> parts = numbersIn(digits, kTimeSigns);
+  if (parts.size() < 2 || parts.size() > 3) return {};
   parts.resize(3);
   if (morning || evening) {
     if (parts[0] < 1 || parts[0] > 12) return {};
@@ -83,7 +87,7 @@ std::optional<double> EnglishLocale::dateValue(std::string_view raw) {
   const std::string_view text = Trim(raw);
   if (const std::optional<double> time = timeOfDay(text)) return time;
   const std::size_t blank = text.find(' ');
-  const std::vector<int> parts = numbersIn(text.substr(0, blank));
+  const std::vector<int> parts = numbersIn(text.substr(0, blank), kDateSigns);
   if (parts.size() != 3) return {};
   const std::chrono::year_month_day date(year(fullYear(parts[2])),
                                          month(static_cast<unsigned>(parts[0])),

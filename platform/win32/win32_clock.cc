@@ -15,17 +15,6 @@ namespace {
 
 constexpr int kTextLength = 128;
 
-SYSTEMTIME systemTime(const LocalTime& time) {
-  SYSTEMTIME out{};
-  out.wYear = static_cast<WORD>(time.year);
-  out.wMonth = static_cast<WORD>(time.month);
-  out.wDay = static_cast<WORD>(time.day);
-  out.wHour = static_cast<WORD>(time.hour);
-  out.wMinute = static_cast<WORD>(time.minute);
-  out.wSecond = static_cast<WORD>(time.second);
-  return out;
-}
-
 struct FreeText {
   void operator()(wchar_t* text) const { SysFreeString(text); }
 };
@@ -46,6 +35,17 @@ std::string textOf(const SYSTEMTIME& time, ULONG part) {
 }
 
 }  // namespace
+
+SYSTEMTIME systemTime(const LocalTime& time) {
+  SYSTEMTIME out{};
+  out.wYear = static_cast<WORD>(time.year);
+  out.wMonth = static_cast<WORD>(time.month);
+  out.wDay = static_cast<WORD>(time.day);
+  out.wHour = static_cast<WORD>(time.hour);
+  out.wMinute = static_cast<WORD>(time.minute);
+  out.wSecond = static_cast<WORD>(time.second);
+  return out;
+}
 
 std::uint64_t tickCount() {
   static const std::uint64_t kPerSecond = [] {

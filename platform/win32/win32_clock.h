@@ -1,9 +1,14 @@
 // The clock of this machine and the text forms of its user's locale.
 #pragma once
 
+#include <windows.h>
+
 #include "platform/clock.h"
 
 namespace tavr::win32 {
+
+/// The time as calls of Windows take it; the day of the week is left to them.
+SYSTEMTIME systemTime(const LocalTime& time);
 
 /// Milliseconds of the performance counter: the tick count proper moves in steps
 /// of 16, too coarse for the timers.

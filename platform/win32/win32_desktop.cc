@@ -119,7 +119,8 @@ void Win32Desktop::changeTrayIcon(std::string_view tool_tip) {
 void Win32Desktop::removeTrayIcon() {
   if (!wanted_) return;
   KillTimer(static_cast<HWND>(tray_window_), reinterpret_cast<UINT_PTR>(this));
-  if (shown_) notify(NIM_DELETE, 0);
+  // A task bar that was late with its answer may have it all the same.
+  notify(NIM_DELETE, 0);
   wanted_ = shown_ = false;
 }
 

@@ -12,6 +12,8 @@ namespace tavr::win32 {
 namespace {
 
 constexpr REGSAM kBothViews = KEY_WOW64_32KEY | KEY_WOW64_64KEY;
+// As keys have always been made for this program; Windows does not look at it.
+constexpr DWORD kAttributesLength = 50;
 
 // Numbers come from callers as they are, and one that is no root could be a
 // handle of this process that happens to be a key.
@@ -71,9 +73,10 @@ OpenedKey Win32Registry::create(Root root, std::string_view path, std::string_vi
   if (const Status refused = refusal(base, name, access)) return {refused, nullptr};
   const REGSAM mask = withView(access);
   std::wstring class_text = wide(key_class);
+  SECURITY_ATTRIBUTES attributes = {kAttributesLength, nullptr, TRUE};
   HKEY key = nullptr;
   const LSTATUS status = RegCreateKeyExW(base, name.c_str(), 0, class_text.data(),
-                                         REG_OPTION_NON_VOLATILE, mask, nullptr, &key, nullptr);
+                                         REG_OPTION_NON_VOLATILE, mask, &attributes, &key, nullptr);
   return opened(status, key, mask);
 }
 

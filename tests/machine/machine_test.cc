@@ -15,6 +15,7 @@
 #include "tests/machine/scenario.h"
 #include "tests/machine/tree_changes.h"
 #include "tests/machine/tree_image.h"
+#include "tests/support/scenario_files.h"
 
 namespace tavr::testing {
 
@@ -32,12 +33,6 @@ std::vector<std::string> words(std::string_view text) {
     if (!word.empty()) found.push_back(word);
   }
   return found;
-}
-
-std::string joined(const std::vector<std::string>& lines) {
-  std::string text;
-  for (const std::string& line : lines) text += "  " + line + "\n";
-  return text;
 }
 
 std::string registryOf(const TreeImage& tree) {
@@ -154,21 +149,7 @@ class WholeRun {
   TreeImage after_;
 };
 
-std::vector<fs::path> scenarioFiles() {
-  std::vector<fs::path> files;
-  for (const auto& entry : fs::directory_iterator(TAVR_SOURCE_DIR "/tests/machine")) {
-    if (entry.path().extension() == ".scenario") files.push_back(entry.path());
-  }
-  std::sort(files.begin(), files.end());
-  return files;
-}
-
-// gtest takes letters, digits and "_" alone.
-std::string testName(const ::testing::TestParamInfo<fs::path>& file) {
-  std::string name = file.param.stem().string();
-  std::replace(name.begin(), name.end(), '-', '_');
-  return name;
-}
+std::vector<fs::path> allScenarios() { return scenarioFiles(TAVR_SOURCE_DIR "/tests/machine"); }
 
 class MachineScenario : public ::testing::TestWithParam<fs::path> {};
 
@@ -180,9 +161,10 @@ TEST_P(MachineScenario, LeavesWhatItSays) {
   run.checkSecondErase();
 }
 
-INSTANTIATE_TEST_SUITE_P(Whole, MachineScenario, ::testing::ValuesIn(scenarioFiles()), testName);
+INSTANTIATE_TEST_SUITE_P(Whole, MachineScenario, ::testing::ValuesIn(allScenarios()),
+                         scenarioTestName);
 
-TEST(MachineScenarios, AreAtLeastForty) { EXPECT_GE(scenarioFiles().size(), kScenariosAtLeast); }
+TEST(MachineScenarios, AreAtLeastForty) { EXPECT_GE(allScenarios().size(), kScenariosAtLeast); }
 
 }  // namespace
 

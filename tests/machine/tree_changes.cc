@@ -155,4 +155,10 @@ std::vector<std::string> lineDifferences(std::string_view expected, std::string_
   return lines;
 }
 
+std::string joined(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const std::string& line : lines) text += "  " + line + "\n";
+  return text;
+}
+
 }  // namespace tavr::testing

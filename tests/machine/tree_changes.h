@@ -23,4 +23,7 @@ std::vector<std::string> differences(const TreeImage& expected, const TreeImage&
 /// both ends are left out.
 std::vector<std::string> lineDifferences(std::string_view expected, std::string_view actual);
 
+/// Such lines as a test's message shows them, one below the other.
+std::string joined(const std::vector<std::string>& lines);
+
 }  // namespace tavr::testing

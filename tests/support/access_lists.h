@@ -38,7 +38,7 @@ class ListedFiles : public ForwardingFiles {
   Status security(std::string_view path, SecurityDescriptor& out) override {
     const auto found = lists.find(path);
     out = found == lists.end() ? SecurityDescriptor{} : found->second;
-    return kSuccess;
+    return read_status;
   }
   Status setSecurity(std::string_view path, const SecurityDescriptor& descriptor) override {
     ++written;
@@ -48,6 +48,7 @@ class ListedFiles : public ForwardingFiles {
   }
 
   Lists lists;
+  Status read_status = kSuccess;
   int written = 0;
   bool refuses = false;
 };

@@ -52,9 +52,10 @@ class Scheduler : public ::testing::Test {
     if (stage_) return *stage_;
     stage_ = std::make_unique<FormStage>(machine);
     const Machine& m = stage_->program.machine;
-    machine_ = std::make_unique<Machine>(Machine{
-        m.registry, m.wmi, m.ini, m.files, m.processes, m.url_cache, m.shell, m.event_log, m.parent,
-        m.clock, m.locale, m.events, person, m.environment, m.desktop, m.accounts});
+    machine_ = std::make_unique<Machine>(
+        Machine{m.registry, m.wmi, m.ini, m.files, m.processes, m.url_cache, m.shell, m.event_log,
+                m.parent, m.clock, locale != nullptr ? *locale : m.locale, m.events, person,
+                m.environment, m.desktop, m.accounts});
     context_ = std::make_unique<FormContext>(
         FormContext{*machine_, stage_->program.registry, stage_->program.numbers,
                     stage_->program.tracks, stage_->language, stage_->host});
@@ -82,7 +83,8 @@ class Scheduler : public ::testing::Test {
   }
   // A schedule as the options form saves it now.
   void save(OptionButton Form3::*option, Form3::CaretBox Form3::*box, std::string_view interval) {
-    Form3Code options(stage().context);
+    stage();
+    Form3Code options(*context_);
     (options.form.*option).setValue(true);
     (options.form.*box).setText(interval);
     options.chameleonButton5_Click();
@@ -107,6 +109,7 @@ class Scheduler : public ::testing::Test {
 
   TestMachine machine;
   Person person;
+  Locale* locale = nullptr;          // in place of the machine's own
   std::vector<std::string> fired;    // when the Erase run was started
   std::vector<std::string> changes;  // of Text5
   std::function<void()> onRun;

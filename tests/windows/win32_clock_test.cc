@@ -14,17 +14,6 @@ namespace {
 constexpr int kTextLength = 128;
 constexpr LocalTime kMorning{2026, 11, 20, 9, 5, 7};
 
-SYSTEMTIME systemTime(const LocalTime& time) {
-  SYSTEMTIME out{};
-  out.wYear = static_cast<WORD>(time.year);
-  out.wMonth = static_cast<WORD>(time.month);
-  out.wDay = static_cast<WORD>(time.day);
-  out.wHour = static_cast<WORD>(time.hour);
-  out.wMinute = static_cast<WORD>(time.minute);
-  out.wSecond = static_cast<WORD>(time.second);
-  return out;
-}
-
 // The user's calendar is that of date values, which the texts are in.
 bool usersCalendarIsGregorian() {
   DWORD calendar = 0;

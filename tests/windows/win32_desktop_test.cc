@@ -13,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/win32/plain_window.h"
 #include "platform/win32/wide.h"
 #include "tests/contract/win32_differences.h"
 #include "tests/contract/win32_parent_window.h"
@@ -38,14 +39,8 @@ struct NotifyData {
 class TaskBar {
  public:
   TaskBar() {
-    WNDCLASSW window_class = {};
-    window_class.lpfnWndProc = &procedure;
-    window_class.hInstance = GetModuleHandleW(nullptr);
-    window_class.lpszClassName = L"Shell_TrayWnd";  // what the shell's calls look for
-    RegisterClassW(&window_class);
-    window_ = CreateWindowExW(WS_EX_TOOLWINDOW, window_class.lpszClassName, L"", WS_POPUP, 0, 0, 1,
-                              1, nullptr, nullptr, window_class.hInstance, nullptr);
-    SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    // What the shell's calls look for.
+    window_ = makePlainWindow(L"Shell_TrayWnd", &procedure, this);
     // The first of its class is found, ahead of one that the system runs.
     SetWindowPos(window_, HWND_TOPMOST, 0, 0, 1, 1, SWP_NOACTIVATE);
   }
@@ -189,6 +184,16 @@ TEST_F(TrayIconTest, ARemovedOneIsNotAskedForAgain) {
   bar_->takes = true;
   pumpFor(kRetry + kRetry / 2);
   EXPECT_THAT(bar_->taken(), IsEmpty());
+}
+
+// It may have taken the icon and been late with its answer.
+TEST_F(TrayIconTest, ATaskBarThatDidNotTakeItIsToldOfItsRemovalToo) {
+  bar_->takes = false;
+  desktop_->addTrayIcon("one");
+  bar_->takes = true;
+  desktop_->removeTrayIcon();
+  desktop_->removeTrayIcon();
+  EXPECT_THAT(bar_->taken(), ElementsAre("remove 0"));
 }
 
 TEST_F(TrayIconTest, ATaskBarThatHasStartedAnewGetsItAgain) {

@@ -72,6 +72,37 @@ TEST_F(DueTimersTest, ATimerThatWasServedInsideAHandlerIsNotServedAgain) {
   EXPECT_EQ(fired_, "b");
 }
 
+TEST_F(DueTimersTest, AHandlerThatComesBackLaterIsServedInsideItself) {
+  timers_.start(0, 10, [this] {
+    fired_ += '(';
+    if (fired_.size() < 3) timers_.fire(10 * (fired_.size() + 1));
+    fired_ += ')';
+  });
+  timers_.fire(10);
+  EXPECT_EQ(fired_, "((()))");
+  EXPECT_EQ(timers_.nextDue(), 40u);
+}
+
+TEST_F(DueTimersTest, AHandlerThatComesBackAtOnceIsNotServedAgain) {
+  timers_.start(0, 10, [this] {
+    fired_ += 'a';
+    timers_.fire(19);
+  });
+  timers_.fire(10);
+  EXPECT_EQ(fired_, "a");
+}
+
+TEST_F(DueTimersTest, ATimerStartedByAHandlerWaitsForItsOwnTime) {
+  timers_.start(0, 10, [this] {
+    if (timers_.nextDue() == 20) timers_.start(10, 5, notes('b'));
+  });
+  timers_.fire(10);
+  EXPECT_EQ(fired_, "");
+  EXPECT_EQ(timers_.nextDue(), 15u);
+  timers_.fire(15);
+  EXPECT_EQ(fired_, "b");
+}
+
 TEST_F(DueTimersTest, AfterAnExceptionTheOthersFireAtTheNextCall) {
   timers_.start(0, 1, [] { throw std::runtime_error("refused"); });
   timers_.start(0, 2, notes('b'));

@@ -8,34 +8,35 @@
 
 #include "basic/resume_next.h"
 #include "platform/folder/english_locale.h"
+#include "tests/support/german_locale.h"
 
 namespace tavr {
 namespace {
 
-// Day, month and year with points, hours to 24.
-class GermanLocale : public Locale {
+// Writes dates with blanks and a closing sign and times with points, as Hungarian
+// and Finnish do, and reads neither.
+class ForeignLocale : public Locale {
  public:
+  explicit ForeignLocale(const char* date_form, int century = 0)
+      : date_form_(date_form), century_(century) {}
   std::string shortDate(const LocalTime& time) override {
     char text[48];
-    std::snprintf(text, sizeof text, "%02d.%02d.%04d", time.day, time.month, time.year);
+    std::snprintf(text, sizeof text, date_form_, time.day, time.month, time.year - century_);
     return text;
   }
   std::string longTime(const LocalTime& time) override {
     char text[48];
-    std::snprintf(text, sizeof text, "%02d:%02d:%02d", time.hour, time.minute, time.second);
+    const int hour = time.hour % 12 == 0 ? 12 : time.hour % 12;
+    std::snprintf(text, sizeof text, "%s %d.%02d.%02d", time.hour < 12 ? "before" : "after", hour,
+                  time.minute, time.second);
     return text;
   }
-  std::optional<double> dateValue(std::string_view text) override {
-    int day = 0;
-    int month = 0;
-    int year = 0;
-    int hour = 0;
-    if (std::sscanf(std::string(text).c_str(), "%d.%d.%d %d:", &day, &month, &year, &hour) < 3) {
-      return {};
-    }
-    return dateOf({year, month, day, 0, 0, 0}) + hour / 24.0;
-  }
+  std::optional<double> dateValue(std::string_view) override { return {}; }
   char decimalSign() override { return ','; }
+
+ private:
+  const char* date_form_;
+  int century_;  // left out of the year
 };
 
 class Dates : public ::testing::Test {
@@ -51,7 +52,7 @@ class Dates : public ::testing::Test {
   DateNumber day(int year, int month, int date) { return dateOf({year, month, date, 13, 14, 15}); }
 
   folder::EnglishLocale english;
-  GermanLocale german;
+  testing::GermanLocale german;
 };
 
 TEST_F(Dates, CountFromTheThirtiethOfDecember1899) {
@@ -76,10 +77,36 @@ TEST_F(Dates, AreReadBackFromTheShortForm) {
   EXPECT_EQ(toDate(english, "11/20/2026"), day(2026, 11, 20));
   EXPECT_EQ(toDate(english, " 1/2/2027 "), day(2027, 1, 2));
   EXPECT_EQ(toDate(english, "2/29/2028"), day(2028, 2, 29));
+  EXPECT_EQ(toDate(english, "11-20-2026"), day(2026, 11, 20));
   EXPECT_EQ(toDate(german, "02.01.2027"), day(2027, 1, 2));
   EXPECT_EQ(toDate(english, "11/20/2026 12:00:00 PM"), day(2026, 11, 20) + 0.5);
   EXPECT_EQ(toDate(english, "11/20/2026 12:00:00 AM"), day(2026, 11, 20));
   EXPECT_EQ(toDate(german, "20.11.2026 18:00:00"), day(2026, 11, 20) + 0.75);
+}
+
+TEST_F(Dates, AreReadBackInAFormThatTheSystemWritesAndDoesNotRead) {
+  ForeignLocale foreign[] = {ForeignLocale("%3$d. %2$d. %1$d."), ForeignLocale("%02d.%02d.%d."),
+                             ForeignLocale("%2$d-%1$d-%3$d y"),
+                             ForeignLocale("%02d.%02d.%02d.", 2000)};
+  for (ForeignLocale& locale : foreign) {
+    for (const DateNumber date : {day(2026, 11, 20), day(2026, 12, 2), day(2027, 2, 12),
+                                  day(2028, 2, 29), day(2003, 2, 1)}) {
+      for (const double hour : {0, 1, 11, 12, 13, 23}) {
+        const std::string text = dateText(locale, date + hour / 24);
+        ASSERT_NEAR(toDate(locale, text), date + hour / 24, 1e-9) << text;
+      }
+    }
+  }
+}
+
+TEST_F(Dates, OfSuchAFormAreNothingElse) {
+  ForeignLocale foreign("%3$d. %2$d. %1$d.");
+  for (const char* text :
+       {"", "2026. 11. 31.", "2026.11.20", "20. 11. 2026.", "2026. 11.", "2026. 11. 20. x",
+        "2026. 11. 20. after 6.00", "99999. 11. 20.", "2026. 11. 20. after 99.00.00",
+        "2026. 11. 20. noon 1.00.00", "99999999999999999999. 1. 1."}) {
+    EXPECT_THROW(toDate(foreign, text), RuntimeError) << text;
+  }
 }
 
 TEST_F(Dates, OfAShortYearLieBetween1930And2029) {
@@ -107,7 +134,12 @@ TEST_F(Dates, RaiseATypeMismatchForAnyOtherText) {
                            "11/20/2026 25:00",
                            "11/20/2026 0:00:00 AM",
                            "11/20/2026 13:00:00 PM",
-                           "11/20/2026 1.5"}) {
+                           "11/20/2026 1.5",
+                           "11a20b2026",
+                           "11:20:2026",
+                           "11:20/2026",
+                           "11/20/2026 10:30/15",
+                           "10x30:00"}) {
     EXPECT_EQ(errorOf(text), kErrTypeMismatch) << text;
   }
 }

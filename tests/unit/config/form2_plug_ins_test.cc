@@ -401,6 +401,17 @@ TEST_F(Form2PlugIns, DownloadOpensThePageOfTheMaker) {
   EXPECT_EQ(shellLog(), "execute 1 open " + std::string(kMakerSite) + "/plugin.htm\n");
 }
 
+TEST_F(Form2PlugIns, WhileThePageIsOpenedTheFormStepsAside) {
+  code().Form_Load();
+  std::vector<std::string> steps;
+  form().onTopmost = [&](bool on) {
+    const bool opened = !machine.readMachineFile("shell.log").empty();
+    steps.push_back(std::string(on ? "on top" : "aside") + (opened ? ", opened" : ""));
+  };
+  button(12).press();
+  EXPECT_THAT(steps, ElementsAre("aside", "on top, opened"));
+}
+
 TEST_F(Form2PlugIns, TheMakerToolIsStartedFromTheProgramsFolder) {
   button(13).press();
   EXPECT_EQ(shellLog(), "execute 1 open " + kFolder + "plug-in maker.exe\n");

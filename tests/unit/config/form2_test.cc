@@ -349,6 +349,15 @@ TEST_F(Form2Test, TheViewButtonsOpenTheKeepList) {
   EXPECT_TRUE(form().topmost);
 }
 
+TEST_F(Form2Test, WhileTheKeepListComesUpTheFormStepsAside) {
+  std::vector<std::string> steps;
+  form().onTopmost = [&](bool on) { steps.emplace_back(on ? "on top" : "aside"); };
+  stage().host.onKeepList = [&] { steps.emplace_back("keep list"); };
+  code().Form_Load();
+  button(6).press();
+  EXPECT_THAT(steps, ElementsAre("aside", "keep list", "on top"));
+}
+
 TEST_F(Form2Test, TheHelpPictureOpensItsPage) {
   form().Image44.press();
   machine.stop();

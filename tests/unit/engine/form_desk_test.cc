@@ -52,6 +52,28 @@ TEST_F(FormDeskTest, UnloadingTheSettingsChangesNothing) {
               UnorderedElementsAre("-Form2", "Form1.enabled=yes"));
 }
 
+TEST_F(FormDeskTest, TheKeepListStandsOverTheFormThatOpensIt) {
+  desk().openSettings();
+  Form& settings = *desk().loaded("Form2");
+  settings.left = 300;
+  settings.top = 200;
+  desk().openKeepList("heading", "1");
+  const Form& list = *desk().loaded("Form52");
+  EXPECT_EQ(list.left + list.width / 2, settings.left + settings.width / 2);
+  EXPECT_EQ(list.top + list.height / 2, settings.top + settings.height / 2);
+}
+
+TEST_F(FormDeskTest, AKeepListThatIsOpenStaysWhereThePersonPutIt) {
+  desk().openSettings();
+  desk().openKeepList("heading", "1");
+  Form& list = *desk().loaded("Form52");
+  list.left = 11;
+  list.top = 12;
+  desk().openKeepList("heading", "2");
+  EXPECT_EQ(list.left, 11);
+  EXPECT_EQ(list.top, 12);
+}
+
 // The object outlives its unloading until the event at hand is over.
 TEST_F(FormDeskTest, TheTimerOfAFormThatWasUnloadedTicksNoMore) {
   desk().openOptions();

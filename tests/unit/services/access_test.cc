@@ -181,8 +181,10 @@ TEST_F(AccessTest, RepeatedGrantsLeaveAListOfTheSameEntries) {
   ASSERT_TRUE(grantKey());
   const auto once = shown(keyList());
   ASSERT_TRUE(grantKey());
+  const auto twice = keyList().dacl;
   ASSERT_TRUE(grantKey());
   EXPECT_EQ(shown(keyList()), once);
+  EXPECT_EQ(keyList().dacl, twice) << "its room does not grow either";
 }
 
 TEST_F(AccessTest, TheRoomIsThatOfTheOldListAndOfTheWholeRequest) {
@@ -276,6 +278,13 @@ TEST_F(AccessTest, AFileWithoutAListOrWithAnEmptyOneStaysAsItIs) {
   EXPECT_EQ(files().written, 0);
 }
 
+TEST_F(AccessTest, AFileThatDoesNotShowItsListStaysAsItIs) {
+  files().lists["C:\\d\\a"].dacl = listOf({AccessEntry(kAceAllowed, 0, 3, kSystem)});
+  files().read_status = kAccessDenied;
+  grantFile("C:\\d\\a");
+  EXPECT_EQ(files().written, 0);
+}
+
 TEST_F(AccessTest, AFileThatRefusesANewListStaysAsItIs) {
   files().lists["C:\\d\\a"].dacl = listOf({AccessEntry(kAceAllowed, 0, 3, kSystem)});
   files().refuses = true;
@@ -320,6 +329,23 @@ TEST_F(AccessTest, AFolderLosesItsOldEntriesOfTheUser) {
   grantFile("C:\\d\\sub");
   EXPECT_THAT(shown(files().lists["C:\\d\\sub"]),
               ElementsAre("allow s 0 3", "allow u 9 10000000", "allow u 2 10000000"));
+}
+
+// 16 bits say how long a list is.
+TEST_F(AccessTest, AListWithoutRoomForTheRequestStaysAsItIs) {
+  const auto longList = [](std::size_t entries) {
+    return listOf(std::vector<AccessEntry>(entries, AccessEntry(kAceAllowed, 0, 1, kOther)));
+  };
+  const std::string longest = longList((0xFFFF - 8 - 3 * 20) / 20);
+  keyList().dacl = longest;
+  EXPECT_TRUE(grantKey());
+  const std::string longer = longList((0xFFFF - 8 - 3 * 20) / 20 + 1);
+  keyList().dacl = longer;
+  EXPECT_FALSE(grantKey());
+  EXPECT_EQ(keyList().dacl, longer);
+  files().lists["C:\\d\\a"].dacl = longList((0xFFFF - 8) / 20);
+  grantFile("C:\\d\\a");
+  EXPECT_EQ(files().written, 0);
 }
 
 TEST_F(AccessTest, AKeyWithoutAListGetsTheRequestAlone) {

@@ -155,6 +155,28 @@ TEST_F(RegistryMasksTest, TheGrantReachesAKeyOfThe64BitViewAndOfTheUser) {
   EXPECT_FALSE(GrantKeyAccess(machine(), Root::kCurrentUser, "Software\\gone", "user"));
 }
 
+TEST_F(RegistryMasksTest, TheGrantComesBeforeTheKeyIsMade) {
+  bool failed = false;
+  const RegistryLayer registry(machine(), List12, List20, Text2, &failed);
+  ASSERT_TRUE(registry.fSaveString(Root::kCurrentUser, "Software\\a", "x", "1"));
+  EXPECT_TRUE(failed);
+  std::string text;
+  EXPECT_FALSE(registry.fGetString(Root::kCurrentUser, "Software\\a", "gone", text));
+  EXPECT_FALSE(failed) << "a missing value is no matter of the grant";
+}
+
+TEST_F(RegistryMasksTest, TrackRoutinesLeaveTheOutcomeOfTheLastGrant) {
+  bool failed = true;
+  RegistryLayer registry(machine(), List12, List20, Text2, &failed);
+  ASSERT_TRUE(registry.fSaveString(Root::kCurrentUser, "Software\\a", "x", "1"));
+  failed = true;
+  ReadValue value;
+  registry.fReadValue("HKCU", "Software\\a", "x", "s", std::string(), value);
+  registry.fEnumValuec("HKCU", "Software\\a");
+  registry.fDeleteValue("HKCU", "Software\\a", "x");
+  EXPECT_TRUE(failed);
+}
+
 TEST_F(RegistryMasksTest, ThePendingListIsReadAfterTheGrant) {
   Form1 form(machine());
   FileNumbers numbers(machine());

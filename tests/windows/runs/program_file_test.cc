@@ -66,9 +66,36 @@ TEST(ProgramFile, AsksForWhatItNeedsOfTheSystem) {
   for (const char* text :
        {"level=\"highestAvailable\"", "PerMonitorV2", ">UTF-8</activeCodePage>",
         "Microsoft.Windows.Common-Controls", "{35138b9a-5d96-4fbd-8e2d-a2440225f93a}",
+        "{4a2f28e3-53b9-4441-ba9c-d69d4a4a6e38}", "{1f676c76-80e1-4239-95bb-83d0f6d0da78}",
         "{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a}"}) {
     EXPECT_NE(bytes.find(text), std::string::npos) << text;
   }
+}
+
+TEST(ProgramFile, SaysWhatItIs) {
+  const std::string bytes = bytesOf(program("TAVR_WINDOWS_BUILD"));
+  for (const char* text : {"VS_VERSION_INFO", "FileDescription", "Tavr Wipe", "tavrwipe.exe"}) {
+    std::string units;  // the texts of a version are in UTF-16
+    for (const char* at = text; *at != '\0'; ++at) units.append({*at, '\0'});
+    EXPECT_NE(bytes.find(units), std::string::npos) << text;
+  }
+}
+
+// The first picture of the icon's file, by what the file says of its size and place.
+TEST(ProgramFile, CarriesItsIcon) {
+  constexpr std::size_t kSize = 14;
+  constexpr std::size_t kPlace = 18;
+  const std::string file = bytesOf(TAVR_SOURCE_DIR "/resources/tavrwipe.ico");
+  ASSERT_GT(file.size(), kPlace + 4);
+  const auto number = [&file](std::size_t at) {
+    std::size_t value = 0;
+    for (std::size_t i = 4; i-- > 0;) value = value << 8 | static_cast<unsigned char>(file[at + i]);
+    return value;
+  };
+  ASSERT_LT(number(kPlace), file.size());
+  const std::string picture = file.substr(number(kPlace), number(kSize));
+  ASSERT_FALSE(picture.empty());
+  EXPECT_NE(bytesOf(program("TAVR_WINDOWS_BUILD")).find(picture), std::string::npos);
 }
 
 TEST(ProgramFile, HasTheSameBytesWhenBuiltInAnotherFolder) {

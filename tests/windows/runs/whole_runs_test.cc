@@ -13,6 +13,7 @@
 
 #include "basic/text.h"
 #include "tests/machine/tree_changes.h"
+#include "tests/support/scenario_files.h"
 #include "tests/windows/runs/machine_files.h"
 #include "tests/windows/runs/twin.h"
 #include "tests/windows/runs/windows_run.h"
@@ -24,12 +25,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view kLog = "C/Program Files/Tavr Wipe/eraselog.txt";
-
-std::string joined(const std::vector<std::string>& lines) {
-  std::string text;
-  for (const std::string& line : lines) text += "  " + line + "\n";
-  return text;
-}
 
 bool contains(std::string_view text, std::string_view part) {
   return text.find(part) != std::string_view::npos;
@@ -171,14 +166,7 @@ std::map<std::string, std::string> notUnderWine() {
   return reasons;
 }
 
-std::vector<fs::path> scenarioFiles() {
-  std::vector<fs::path> files;
-  for (const auto& entry : fs::directory_iterator(TAVR_SOURCE_DIR "/tests/machine")) {
-    if (entry.path().extension() == ".scenario") files.push_back(entry.path());
-  }
-  std::sort(files.begin(), files.end());
-  return files;
-}
+std::vector<fs::path> allScenarios() { return scenarioFiles(TAVR_SOURCE_DIR "/tests/machine"); }
 
 Scenario carriedScenario(const fs::path& file) {
   Scenario scenario = readScenario(file);
@@ -186,12 +174,6 @@ Scenario carriedScenario(const fs::path& file) {
     for (Entry& entry : scenario.before) entry.marks.read_only = false;
   }
   return scenario;
-}
-
-std::string testName(const ::testing::TestParamInfo<fs::path>& file) {
-  std::string name = file.param.stem().string();
-  std::replace(name.begin(), name.end(), '-', '_');
-  return name;
 }
 
 class WindowsScenario : public ::testing::TestWithParam<fs::path> {};
@@ -209,12 +191,13 @@ TEST_P(WindowsScenario, LeavesWhatItLeavesOnAMachineFolder) {
   check.checkSecondErase();
 }
 
-INSTANTIATE_TEST_SUITE_P(Whole, WindowsScenario, ::testing::ValuesIn(scenarioFiles()), testName);
+INSTANTIATE_TEST_SUITE_P(Whole, WindowsScenario, ::testing::ValuesIn(allScenarios()),
+                         scenarioTestName);
 
 TEST(WindowsScenarios, AreLeftOutWithAReasonAndOnlyThen) {
   std::map<std::string, std::string> reasons = notUnderWine();
   for (const auto& [name, reason] : reasons) EXPECT_GT(reason.size(), 10U) << name;
-  for (const fs::path& file : scenarioFiles()) {
+  for (const fs::path& file : allScenarios()) {
     reasons.erase(file.stem());
     reasons.erase(file.stem().string() + std::string(kOnlyWithoutMarks));
   }
