@@ -2,7 +2,7 @@
 # scripts/prefix; never by the build.
 file(GLOB sources CONFIGURE_DEPENDS contract/*_contract_test.cc contract/win32_*.cc
      windows/*_test.cc)
-add_executable(test_contract ${sources})
+add_executable(test_contract ${sources} windows/display.cc)
 target_link_libraries(test_contract PRIVATE tavr_services tavr_win32 gmock_main wininet)
 
 # Started by test_contract under other names; it looks for them beside itself.

@@ -1,6 +1,7 @@
 # What scripts/screenshots opens the forms with.
 set(folder ${CMAKE_CURRENT_LIST_DIR})
-add_executable(show EXCLUDE_FROM_ALL ${folder}/screenshots/show.cc ${folder}/window/driven_program.cc
+add_executable(show EXCLUDE_FROM_ALL ${folder}/screenshots/show.cc
+               ${folder}/screenshots/photographs.cc ${folder}/window/driven_program.cc
                ${folder}/window/hands.cc ${folder}/window/task_bar.cc)
 target_link_libraries(show PRIVATE tavr_win32)
 
