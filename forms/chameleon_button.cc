@@ -90,7 +90,6 @@ void ChameleonButton::setProperty(std::string_view key, std::string_view text) {
 }
 
 void ChameleonButton::mouseMove(bool any_button_down) {
-  pointer_inside = true;
   if (state_ == State::kNormal && !any_button_down) {
     state_ = State::kOver;
     OverTimer.setEnabled(true);
@@ -111,13 +110,13 @@ void ChameleonButton::mouseDown(MouseButton button) {
   if (onMouseDown) onMouseDown(button);
 }
 
-void ChameleonButton::mouseUp(MouseButton button) {
+void ChameleonButton::mouseUp(MouseButton button, bool inside) {
   const bool releases = state_ == State::kPressed && button == down_button_;
   if (releases) state_ = before_press_;
   if (onMouseUp) onMouseUp(button);
   if (!releases) return;
   draw(kNormal);
-  if (button == MouseButton::kLeft) press();
+  if (button == MouseButton::kLeft && inside) press();
 }
 
 void ChameleonButton::keyDown(ButtonKey key) {
@@ -133,9 +132,14 @@ void ChameleonButton::keyDown(ButtonKey key) {
 
 void ChameleonButton::keyUp(ButtonKey key) {
   if (key != ButtonKey::kSpace || state_ != State::kPressed) return;
+  letGo();
+  press();
+}
+
+void ChameleonButton::letGo() {
+  if (state_ != State::kPressed) return;
   state_ = State::kNormal;
   draw(kNormal);
-  press();
 }
 
 void ChameleonButton::Refresh() {

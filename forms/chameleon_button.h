@@ -68,11 +68,15 @@ class ChameleonButton : public Button {
   // What a view passes on.
   void mouseMove(bool any_button_down = false);
   void mouseDown(MouseButton button);
-  /// The handlers see the click after MouseUp.
-  void mouseUp(MouseButton button);
+  /// The handlers see the click after MouseUp. One that goes up beside the
+  /// button is no click.
+  void mouseUp(MouseButton button, bool inside = true);
   void keyDown(ButtonKey key);
   void keyUp(ButtonKey key);
-  /// Whether the pointer stands over it, as OverTimer finds it.
+  /// What presses it will not come up on it: back to normal without a click.
+  void letGo();
+  /// Whether the pointer stands over it, as OverTimer finds it. A view keeps it:
+  /// a move that it passes on late must not bring back a pointer that has left.
   bool pointer_inside = false;
 
   std::function<void(MouseButton button)> onMouseDown;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -33,6 +34,14 @@ class Form {
   std::int32_t back_color = 0;
   bool has_look_color = false;  ///< the person's look gave the form its colour
   int shown_again = 0;          ///< grows with every showing of a form that is open already
+
+  /// For a form that steps aside for a moment: told at once, as nobody sees a value
+  /// that is changed and changed back within one handler. A view's notice.
+  std::function<void(bool on)> onTopmost;
+  void setTopmost(bool on) {
+    topmost = on;
+    if (onTopmost) onTopmost(on);
+  }
 
   std::string_view name() const { return name_; }
 

@@ -5,6 +5,7 @@
 #include <future>
 #include <stdexcept>
 
+#include "platform/win32/plain_window.h"
 #include "platform/win32/wide.h"
 
 namespace tavr::contract {
@@ -25,24 +26,13 @@ LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM wparam, LPARAM lpar
   return DefWindowProcW(window, message, wparam, lparam);
 }
 
-HWND makeWindow(const std::wstring& title) {
-  WNDCLASSW window_class = {};
-  window_class.lpfnWndProc = onMessage;
-  window_class.hInstance = GetModuleHandleW(nullptr);
-  window_class.lpszClassName = kClass;
-  RegisterClassW(&window_class);  // a second time it is there already
-  return CreateWindowExW(0, kClass, title.c_str(), WS_OVERLAPPEDWINDOW, 0, 0, 100, 100, nullptr,
-                         nullptr, window_class.hInstance, nullptr);
-}
-
 }  // namespace
 
 ParentWindow::ParentWindow(std::string_view title) {
   std::promise<HWND> made;
   std::future<HWND> window = made.get_future();
   thread_ = std::thread([this, &made, text = win32::wide(title)] {
-    const HWND own = makeWindow(text);
-    if (own != nullptr) SetWindowLongPtrW(own, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&texts_));
+    const HWND own = win32::makePlainWindow(kClass, &onMessage, &texts_, text.c_str());
     made.set_value(own);
     MSG message = {};
     while (own != nullptr && GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
@@ -60,7 +50,7 @@ ParentWindow::~ParentWindow() {
 }
 
 bool ParentWindow::possible() {
-  const HWND window = makeWindow(L"");
+  const HWND window = win32::makePlainWindow(kClass, &onMessage, nullptr);
   if (window == nullptr) return false;
   SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(DefWindowProcW));
   DestroyWindow(window);  // without the message that would end this thread's pump

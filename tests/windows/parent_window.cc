@@ -6,6 +6,8 @@
 #include <stdexcept>
 #include <utility>
 
+#include "platform/win32/plain_window.h"
+
 namespace tavr::windows_test {
 
 namespace {
@@ -34,21 +36,13 @@ std::string readTotals() {
 
 LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   if (message == kTotalsMessage) {
-    (*reinterpret_cast<OnTotals*>(GetWindowLongPtrW(window, GWLP_USERDATA)))(readTotals());
+    const bool has_address = wparam != 0 && lparam == 0;
+    (*reinterpret_cast<OnTotals*>(GetWindowLongPtrW(window, GWLP_USERDATA)))(
+        has_address ? readTotals() : "no address");
     return 0;
   }
   if (message == WM_DESTROY) PostQuitMessage(0);
   return DefWindowProcW(window, message, wparam, lparam);
-}
-
-HWND makeWindow(const std::wstring& title) {
-  WNDCLASSW window_class = {};
-  window_class.lpfnWndProc = onMessage;
-  window_class.hInstance = GetModuleHandleW(nullptr);
-  window_class.lpszClassName = kClass;
-  RegisterClassW(&window_class);
-  return CreateWindowExW(0, kClass, title.c_str(), WS_OVERLAPPEDWINDOW, 0, 0, 300, 100, nullptr,
-                         nullptr, window_class.hInstance, nullptr);
 }
 
 }  // namespace
@@ -58,10 +52,7 @@ TotalsWindow::TotalsWindow(const std::wstring& title, OnTotals on_totals)
   std::promise<HWND> made;
   std::future<HWND> window = made.get_future();
   thread_ = std::thread([this, &made, title] {
-    const HWND own = makeWindow(title);
-    if (own != nullptr) {
-      SetWindowLongPtrW(own, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&on_totals_));
-    }
+    const HWND own = win32::makePlainWindow(kClass, &onMessage, &on_totals_, title.c_str());
     made.set_value(own);
     MSG message = {};
     while (own != nullptr && GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);

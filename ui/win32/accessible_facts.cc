@@ -74,8 +74,8 @@ long buttonState(const ControlLook& look, const Form& form, const Control& contr
     if (panel && panel->visible) state |= STATE_SYSTEM_SELECTED;
   }
   const auto* const chameleon = dynamic_cast<const ChameleonButton*>(&control);
-  const bool down =
-      chameleon && (chameleon->value || chameleon->state() == ChameleonButton::State::kPressed);
+  const bool down = chameleon && ((chameleon->check_box_behaviour && chameleon->value) ||
+                                  chameleon->state() == ChameleonButton::State::kPressed);
   if (down) state |= STATE_SYSTEM_PRESSED;
   if (defaultButton(form) == &control) state |= STATE_SYSTEM_DEFAULT;
   return state;
@@ -127,8 +127,8 @@ std::string_view actionOf(long role, long state) {
 std::string valueOf(const Control& control) {
   const auto* const bar = dynamic_cast<const ProgressBar*>(&control);
   if (!bar || bar->max() <= bar->min()) return "";
-  const double part =
-      static_cast<double>(bar->value() - bar->min()) / static_cast<double>(bar->max() - bar->min());
+  const double low = bar->min();
+  const double part = (bar->value() - low) / (bar->max() - low);
   return std::to_string(static_cast<int>(std::clamp(part, 0.0, 1.0) * kWhole)) + "%";
 }
 

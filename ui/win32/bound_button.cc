@@ -1,7 +1,6 @@
 #include "ui/win32/bound_button.h"
 
 #include <optional>
-#include <utility>
 
 #include "ui/win32/control_places.h"
 #include "ui/win32/form_window.h"
@@ -61,6 +60,7 @@ BoundButton::~BoundButton() {
   chameleon_->onDraw = nullptr;
   chameleon_->onSendKeys = nullptr;
   chameleon_->pointer_inside = false;
+  chameleon_->letGo();
 }
 
 bool BoundButton::isSeparator() const {
@@ -90,12 +90,10 @@ void BoundButton::draw(HDC dc, const RECT& area, const DrawnState& state) {
   shown.icon = look_.icon;
   if (isSeparator()) return form_.drawSeparator(dc, area);
   if (chameleon_) {
-    const bool pressed = chameleon_->state() == ChameleonButton::State::kPressed;
-    shown.pressed = pressed;
-    shown.checked = shown.checked || chameleon_->value;
-    drawChameleonButton(dc, area, *chameleon_,
-                        pressed ? ChameleonButton::kPressed : ChameleonButton::kNormal, look_.role,
-                        shown, form_.palette());
+    // The state that it asked for last: with its refresh disabled, not its own.
+    shown.pressed = false;
+    drawChameleonButton(dc, area, *chameleon_, chameleon_->drawn(), look_.role, shown,
+                        form_.palette());
   } else {
     drawButton(dc, area, button_, look_.role, shown, form_.palette());
   }
@@ -103,7 +101,7 @@ void BoundButton::draw(HDC dc, const RECT& area, const DrawnState& state) {
 
 // One move at a time: its handler may read a file.
 void BoundButton::onMove(bool any_button_down) {
-  if (chameleon_) chameleon_->pointer_inside = true;
+  if (chameleon_) chameleon_->pointer_inside = hovered_;
   if (move_waits_ || (!chameleon_ && !button_.onMouseMove)) return;
   move_waits_ = true;
   post([this, any_button_down] {
@@ -126,23 +124,11 @@ void BoundButton::onUp(MouseButton button, bool inside) {
     if (button == MouseButton::kLeft && inside) post([&plain = button_] { plain.press(); });
     return;
   }
-  post([&chameleon = *chameleon_, button, inside] {
-    if (inside) return chameleon.mouseUp(button);
-    // Who lets go beside the button has changed his mind.
-    std::function<void()> kept = std::exchange(chameleon.onClick, nullptr);
-    chameleon.mouseUp(button);
-    chameleon.onClick = std::move(kept);
-  });
+  post([&chameleon = *chameleon_, button, inside] { chameleon.mouseUp(button, inside); });
 }
 
 void BoundButton::onCancel() {
-  if (!chameleon_) return;
-  post([&chameleon = *chameleon_] {
-    if (chameleon.state() != ChameleonButton::State::kPressed) return;
-    std::function<void()> kept = std::exchange(chameleon.onClick, nullptr);
-    chameleon.keyUp(ButtonKey::kSpace);
-    chameleon.onClick = std::move(kept);
-  });
+  if (chameleon_) post([&chameleon = *chameleon_] { chameleon.letGo(); });
 }
 
 bool BoundButton::onKey(WPARAM key, bool down) {

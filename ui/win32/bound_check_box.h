@@ -1,26 +1,20 @@
 // A check box.
 #pragma once
 
-#include "ui/win32/drawn_control.h"
+#include "ui/win32/bound_choice.h"
 
 namespace tavr::win32 {
 
-class BoundCheckBox : public DrawnControl {
+class BoundCheckBox : public BoundChoice {
  public:
-  BoundCheckBox(FormWindow& form, CheckBox& box) : DrawnControl(form, box), box_(box) {}
-
-  void onAccessKey() override;
+  BoundCheckBox(FormWindow& form, CheckBox& box) : BoundChoice(form, box), box_(box) {}
 
  protected:
-  void draw(HDC dc, const RECT& area, const DrawnState& state) override;
-  std::string drawnOf() const override;
-  void onUp(MouseButton button, bool inside) override;
-  bool onKey(WPARAM key, bool down) override;
+  void drawChoice(HDC dc, const RECT& area, const DrawnState& state) override;
+  void onArrow(bool back) override;
   LRESULT asked(UINT message) const override { return message == BM_GETCHECK ? box_.value() : 0; }
 
  private:
-  void postPress();
-
   CheckBox& box_;
 };
 

@@ -1,29 +1,22 @@
 // One of a group of options.
 #pragma once
 
-#include "ui/win32/drawn_control.h"
+#include "ui/win32/bound_choice.h"
 
 namespace tavr::win32 {
 
-class BoundOption : public DrawnControl {
+class BoundOption : public BoundChoice {
  public:
-  BoundOption(FormWindow& form, OptionButton& box) : DrawnControl(form, box), box_(box) {}
-
-  void onAccessKey() override;
+  BoundOption(FormWindow& form, OptionButton& box) : BoundChoice(form, box), box_(box) {}
 
  protected:
-  void draw(HDC dc, const RECT& area, const DrawnState& state) override;
-  std::string drawnOf() const override;
-  void onUp(MouseButton button, bool inside) override;
-  bool onKey(WPARAM key, bool down) override;
+  void drawChoice(HDC dc, const RECT& area, const DrawnState& state) override;
+  void onArrow(bool back) override;
   LRESULT asked(UINT message) const override {
     return message == BM_GETCHECK ? box_.value() ? BST_CHECKED : BST_UNCHECKED : 0;
   }
 
  private:
-  void postPress();
-  void moveOn(bool back);
-
   OptionButton& box_;
 };
 

@@ -8,7 +8,9 @@ namespace tavr::win32 {
 
 BoundScrollBar::BoundScrollBar(FormWindow& form, ScrollBar& bar)
     : BoundControl(form, bar), bar_(bar) {
-  create(WC_SCROLLBARW, SBS_VERT);
+  // Its thumb, by which others show that they have the keyboard, finds no room
+  // here: the line around it does.
+  create(WC_SCROLLBARW, SBS_VERT | WS_BORDER);
 }
 
 void BoundScrollBar::syncOwn() {

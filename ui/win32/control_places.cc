@@ -12,6 +12,7 @@ namespace {
 
 constexpr int kSameRow = 6;       // px between the tops of a box and its label
 constexpr int kBesideLabel = 40;  // px between a box and the label that names it
+constexpr int kBesideBox = 8;     // px between a box and the scroll bar that turns its number
 
 // The number of the button that opens it, which the design places first.
 constexpr int kListRowOrder = 20;
@@ -38,8 +39,21 @@ bool isStripSign(const Form& form, const Control& control) {
          lookOf(form, control).role == ButtonRole::kStrip;
 }
 
+// A scroll bar has no number in the design: it follows the box that it turns.
+int orderOfScrollBar(const Form& form, const Control& bar) {
+  for (const Control* const box : form.controls()) {
+    if (box->design.kind != ControlKind::kTextBox) continue;
+    if (box->design.parent != bar.design.parent) continue;
+    if (std::abs(box->box.top - bar.box.top) > kSameRow) continue;
+    const int gap = bar.box.left - box->box.left - box->box.width;
+    if (gap >= 0 && gap <= kBesideBox) return box->design.tab;
+  }
+  return bar.design.tab;
+}
+
 // -1: never.
 int orderOf(const Form& form, const Control& control) {
+  if (control.design.kind == ControlKind::kScrollBar) return orderOfScrollBar(form, control);
   if (isStripSign(form, control)) return kSignOrder;
   if (control.design.kind == ControlKind::kToolbarButton) {
     return isSeparator(control) ? -1 : kToolbarOrder + control.design.index;

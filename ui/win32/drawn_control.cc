@@ -93,12 +93,13 @@ void DrawnControl::mouseMoved(WPARAM keys, LPARAM point) {
   RECT area;
   GetClientRect(window_, &area);
   const bool inside = PtInRect(&area, at) != FALSE;
-  if (!hovered_) {
+  if (inside && !hovered_) {
     TRACKMOUSEEVENT leave{sizeof(leave), TME_LEAVE, window_, 0};
     TrackMouseEvent(&leave);
-    invalidate();
   }
-  hovered_ = true;
+  // With a button held down the moves beside it come here, too.
+  if (inside != hovered_) invalidate();
+  hovered_ = inside;
   if (captures_ && (keys & MK_LBUTTON) != 0 && held_ != inside) {
     held_ = inside;
     invalidate();

@@ -176,7 +176,8 @@ void ReportList::clicked(const NMHDR& notice) {
   RECT bounds;
   ListView_GetItemRect(window_, row, &bounds, LVIR_BOUNDS);
   const bool on_box =
-      cell.has_box && click.ptAction.x < bounds.left + form_.px(kPadding + kSign + kPadding / 2);
+      cell.has_box &&
+      click.ptAction.x < bounds.left + form_.px(kListPadding + kListSign + kListPadding / 2);
   onClick(static_cast<std::size_t>(row), on_box);
 }
 

@@ -7,11 +7,11 @@
 #include <commctrl.h>
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "forms/list_header.h"
 #include "ui/win32/bound_control.h"
+#include "ui/win32/draw_list.h"
 
 namespace tavr::win32 {
 
@@ -22,16 +22,7 @@ class ReportList : public BoundControl {
   LRESULT onNotify(NMHDR& header) override;
 
  protected:
-  struct Cell {
-    std::string_view text;
-    std::string_view icon;  ///< of drawIcon; before the text
-    COLORREF icon_color = 0;
-    COLORREF color = 0;
-    bool bold = false;
-    bool at_far_edge = false;  ///< a number: it ends at the column's end
-    bool has_box = false;      ///< with a check box before everything
-    bool checked = false;
-  };
+  using Cell = DrawnCell;
 
   ReportList(FormWindow& form, Control& control);
 
@@ -55,9 +46,6 @@ class ReportList : public BoundControl {
   void redraw(std::size_t first, std::size_t last);
 
  private:
-  static constexpr int kPadding = 12;  // px before and behind a text
-  static constexpr int kSign = 16;     // px of an icon or a check box
-
   static LRESULT CALLBACK headerProcedure(HWND, UINT, WPARAM, LPARAM, UINT_PTR, DWORD_PTR);
   HWND headerWindow() const;
   void makeColumns();
@@ -66,8 +54,7 @@ class ReportList : public BoundControl {
   void paintHeader(HWND window, HDC dc) const;
   LRESULT onCustomDraw(NMHDR& header);
   void drawRow(HDC dc, std::size_t row);
-  void drawCell(HDC dc, RECT area, const Cell& cell);
-  void drawBox(HDC dc, RECT& area, bool checked);
+  void drawCell(HDC dc, const RECT& area, const Cell& cell);
   void answerText(NMHDR& header) const;
   LRESULT findRow(const NMHDR& header) const;
   void clicked(const NMHDR& header);

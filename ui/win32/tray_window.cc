@@ -1,5 +1,8 @@
 #include "ui/win32/tray_window.h"
 
+#include "platform/win32/plain_window.h"
+#include "platform/win32/wide.h"
+#include "services/program_folder.h"
 #include "ui/win32/artwork.h"
 #include "ui/win32/popup_menu.h"
 
@@ -11,30 +14,36 @@ constexpr wchar_t kClass[] = L"TavrTray";
 
 }  // namespace
 
-// No message-only window: those do not hear of a new task bar.
 TrayWindow::TrayWindow(Program& program, Win32Desktop& desktop, ActionQueue& actions)
     : program_(program),
       desktop_(desktop),
       actions_(actions),
       task_bar_created_(RegisterWindowMessageW(L"TaskbarCreated")),
-      icon_(programIcon(GetSystemMetrics(SM_CXSMICON))) {
-  WNDCLASSEXW window_class{};
-  window_class.cbSize = sizeof(window_class);
-  window_class.lpfnWndProc = &procedure;
-  window_class.hInstance = GetModuleHandleW(nullptr);
-  window_class.lpszClassName = kClass;
-  RegisterClassExW(&window_class);
-  window_ = CreateWindowExW(WS_EX_TOOLWINDOW, kClass, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
-                            window_class.hInstance, nullptr);
-  SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  desktop_.setTray(window_, icon_);
+      window_(makePlainWindow(kClass, &procedure, this)) {
+  takePicture();
 }
 
 TrayWindow::~TrayWindow() {
   actions_.discard(this);
   desktop_.setTray(nullptr, nullptr);
   DestroyWindow(window_);
-  DestroyIcon(icon_);
+  if (icon_ != nullptr) DestroyIcon(icon_);
+}
+
+// The file beside the program, or else the program's own sign.
+void TrayWindow::takePicture() {
+  const SIZE size{GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON)};
+  TrayArea& icon = program_.form.TrayArea1;
+  picture_ = icon.icon();
+  const std::wstring file = wide(programFile(program_.machine, picture_));
+  const HICON before = icon_;
+  icon_ = static_cast<HICON>(
+      LoadImageW(nullptr, file.c_str(), IMAGE_ICON, size.cx, size.cy, LR_LOADFROMFILE));
+  if (icon_ == nullptr && !picture_.empty()) icon_ = programIcon(size.cx);
+  desktop_.setTray(window_, icon_);
+  desktop_.changeTrayIcon(icon.record().tip);
+  if (before != nullptr) DestroyIcon(before);
+  icon.firstShow(size.cx, size.cy);
 }
 
 LRESULT CALLBACK TrayWindow::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
@@ -54,6 +63,7 @@ LRESULT CALLBACK TrayWindow::procedure(HWND window, UINT message, WPARAM wparam,
 }
 
 void TrayWindow::sync(bool right_to_left) {
+  if (program_.form.TrayArea1.icon() != picture_) takePicture();
   if (!program_.form.bccc.visible || menu_open_) return;
   menu_open_ = true;
   actions_.post(this, [this, right_to_left] {

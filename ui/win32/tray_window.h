@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <string>
+
 #include "engine/program.h"
 #include "platform/win32/win32_desktop.h"
 #include "ui/win32/action_queue.h"
@@ -19,18 +21,21 @@ class TrayWindow {
 
   HWND window() const { return window_; }
 
-  /// Opens the menu when the program has asked for it.
+  /// Opens the menu when the program has asked for it, and takes another picture
+  /// that the icon was given.
   void sync(bool right_to_left);
 
  private:
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+  void takePicture();
 
   Program& program_;
   Win32Desktop& desktop_;
   ActionQueue& actions_;
   UINT task_bar_created_;
-  HWND window_ = nullptr;
-  HICON icon_;
+  HWND window_;
+  HICON icon_ = nullptr;
+  std::string picture_;  ///< the name of what `icon_` shows
   bool menu_open_ = false;
 };
 

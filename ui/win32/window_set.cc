@@ -21,6 +21,18 @@ constexpr wchar_t kHoldsSession[] = L"Erasing before the session ends";
 
 constexpr std::string_view kRightToLeftLanguage = "ar";
 
+// When an active window goes the system looks at its owner, which a dialog below
+// it has disabled; then it looks among other programs, too.
+void activateBelow(HWND closing) {
+  if (GetForegroundWindow() != closing) return;
+  for (HWND at = GetWindow(closing, GW_HWNDNEXT); at != nullptr; at = GetWindow(at, GW_HWNDNEXT)) {
+    const bool own = GetWindowThreadProcessId(at, nullptr) == GetCurrentThreadId();
+    if (!own || !FormWindow::of(at) || !IsWindowVisible(at) || !IsWindowEnabled(at)) continue;
+    SetForegroundWindow(at);
+    return;
+  }
+}
+
 // The message form answers a question; closing it is the answer No.
 bool isQuestion(std::string_view name) { return name == "frmmsg"; }
 
@@ -40,7 +52,9 @@ WindowSet::~WindowSet() {
 
 HWND WindowSet::mainWindow() const { return windows_.at(kMain)->window(); }
 
-bool WindowSet::rightToLeft() const { return program_.language.lang == kRightToLeftLanguage; }
+bool WindowSet::rightToLeft() const {
+  return program_.language.has_file && program_.language.lang == kRightToLeftLanguage;
+}
 
 FormEvents WindowSet::eventsOf(std::string_view name) {
   FormEvents events;
@@ -134,12 +148,20 @@ void WindowSet::syncShadow(std::string_view name, FormWindow& window) {
 void WindowSet::syncForm(std::string_view name) {
   Form* const form = program_.desk.loaded(name);
   std::unique_ptr<FormWindow>& window = windows_[name];
-  if (window && &window->form() != form) window.reset();
+  if (window && &window->form() != form) {
+    window->form().onTopmost = nullptr;
+    activateBelow(window->window());
+    window.reset();
+  }
   if (!form) return;
   if (!window) {
     if (!form->visible) return;
     window = std::make_unique<FormWindow>(*form, mainWindow(), actions_, program_.machine.dialogs,
                                           eventsOf(name));
+    form->onTopmost = [handle = window->window()](bool on) {
+      SetWindowPos(handle, on ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    };
   }
   window->setLanguage(program_.language.lang);
   window->sync(stripOf(*form), rightToLeft(), name != kMain || main_loaded_);

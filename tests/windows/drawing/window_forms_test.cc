@@ -57,7 +57,8 @@ TEST_F(WindowForms, WhatTheSystemMinimisesGoesToTheNotificationArea) {
   EXPECT_FALSE(IsIconic(window("Form1")));
 }
 
-TEST_F(WindowForms, OneThatIsLargerThanTheScreenKeepsItsStripInSight) {
+// The buttons stand at the end of the strip.
+TEST_F(WindowForms, OneThatIsLargerThanTheScreenKeepsTheEndOfItsStripInSight) {
   constexpr int kDpi = 576;
   const HWND form = window("Form1");
   SendMessageW(form, WM_DPICHANGED, MAKEWPARAM(kDpi, kDpi), 0);
@@ -66,6 +67,28 @@ TEST_F(WindowForms, OneThatIsLargerThanTheScreenKeepsItsStripInSight) {
   ASSERT_TRUE(GetMonitorInfoW(MonitorFromWindow(form, MONITOR_DEFAULTTOPRIMARY), &monitor));
   EXPECT_EQ(FormWindow::of(form)->scale(), 6.0);
   EXPECT_EQ(placeOf(form).top, monitor.rcWork.top);
+  EXPECT_EQ(placeOf(form).right, monitor.rcWork.right);
+  EXPECT_LT(placeOf(form).left, monitor.rcWork.left);
+  shown_.program().language.lang = "ar";
+  shown_.pump();
+  SendMessageW(form, WM_DPICHANGED, MAKEWPARAM(kDpi, kDpi), 0);
+  EXPECT_EQ(placeOf(form).top, monitor.rcWork.top);
+  EXPECT_EQ(placeOf(form).left, monitor.rcWork.left);
+  EXPECT_GT(placeOf(form).right, monitor.rcWork.right);
+}
+
+TEST_F(WindowForms, OneThatFitsTheScreenKeepsItsMiddle) {
+  constexpr int kDpi = 144;
+  const HWND form = window("Form1");
+  main().left = 320;
+  main().top = 270;
+  shown_.pump();
+  const RECT before = placeOf(form);
+  SendMessageW(form, WM_DPICHANGED, MAKEWPARAM(kDpi, kDpi), 0);
+  const RECT after = placeOf(form);
+  EXPECT_EQ(after.right - after.left, MulDiv(before.right - before.left, kDpi, 96));
+  EXPECT_NEAR(after.left + after.right, before.left + before.right, 2);
+  EXPECT_NEAR(after.top + after.bottom, before.top + before.bottom, 2);
 }
 
 TEST_F(WindowForms, OnAnotherMonitorItStandsWhereTheSystemSuggests) {

@@ -52,41 +52,6 @@ TEST_F(WindowHands, AKeyThatIsHeldPressesOnce) {
   EXPECT_EQ(clicks, 2);
 }
 
-TEST_F(WindowHands, TheMiddleButtonGoesDownAndUpButDoesNotClick) {
-  std::vector<std::string> told;
-  ChameleonButton& button = main().chameleonButton11;
-  button.onMouseDown = [&told](MouseButton which) {
-    told.push_back("down " + std::to_string(static_cast<int>(which)));
-  };
-  button.onMouseUp = [&told](MouseButton which) {
-    told.push_back("up " + std::to_string(static_cast<int>(which)));
-  };
-  button.onClick = [&told] { told.emplace_back("click"); };
-  const HWND window = shown_.window("Form1", "chameleonButton11");
-  send(window, WM_MBUTTONDOWN, MK_MBUTTON);
-  EXPECT_EQ(button.state(), ChameleonButton::State::kPressed);
-  send(window, WM_MBUTTONUP);
-  EXPECT_EQ(button.state(), ChameleonButton::State::kNormal);
-  EXPECT_EQ(told, (std::vector<std::string>{"down 4", "up 4"}));
-}
-
-TEST_F(WindowHands, AClickThatIsBrokenOffLetsTheButtonGo) {
-  int clicks = 0;
-  ChameleonButton& button = main().chameleonButton11;
-  button.onClick = [&clicks] { ++clicks; };
-  const HWND window = shown_.window("Form1", "chameleonButton11");
-  send(window, WM_LBUTTONDOWN, MK_LBUTTON);
-  ASSERT_EQ(button.state(), ChameleonButton::State::kPressed);
-  ReleaseCapture();
-  shown_.pump();
-  EXPECT_EQ(button.state(), ChameleonButton::State::kNormal);
-  send(window, WM_LBUTTONUP);
-  EXPECT_EQ(clicks, 0);
-  send(window, WM_LBUTTONDOWN, MK_LBUTTON);
-  send(window, WM_LBUTTONUP);
-  EXPECT_EQ(clicks, 1);
-}
-
 TEST_F(WindowHands, TheSpaceBarThatIsHeldWhileTheFocusGoesDoesNotPress) {
   int clicks = 0;
   ChameleonButton& button = main().chameleonButton11;
@@ -100,24 +65,6 @@ TEST_F(WindowHands, TheSpaceBarThatIsHeldWhileTheFocusGoesDoesNotPress) {
   EXPECT_EQ(button.state(), ChameleonButton::State::kNormal);
   send(window, WM_KEYUP, VK_SPACE);
   EXPECT_EQ(clicks, 0);
-}
-
-TEST_F(WindowHands, EveryPropertyThatIsDrawnRedrawsItsButton) {
-  ChameleonButton& button = main().chameleonButton11;
-  const HWND window = shown_.window("Form1", "chameleonButton11");
-  const auto redrawnBy = [&](auto& property, auto value) {
-    ValidateRect(window, nullptr);
-    property = value;
-    BoundControl::of(window)->sync();
-    return GetUpdateRect(window, nullptr, FALSE) != FALSE;
-  };
-  EXPECT_FALSE(redrawnBy(button.tag, "not drawn"));
-  EXPECT_TRUE(redrawnBy(button.text_color, 255));
-  EXPECT_TRUE(redrawnBy(button.hover_color, 255));
-  EXPECT_TRUE(redrawnBy(button.soft_bevel, !button.soft_bevel));
-  EXPECT_TRUE(redrawnBy(button.picture_normal, "a.bmp"));
-  EXPECT_TRUE(redrawnBy(button.special_effect, 1));
-  EXPECT_TRUE(redrawnBy(button.check_box_behaviour, true));
 }
 
 TEST_F(WindowHands, EscClosesAnOpenListBeforeTheForm) {
@@ -181,6 +128,39 @@ TEST_F(WindowHands, AScrollBarGoesToItsEndsAndWhereItIsDragged) {
   EXPECT_EQ(scrolled(SB_LINEUP), bar.max - 1);
   EXPECT_EQ(scrolled(SB_THUMBPOSITION, 7), 7);
   EXPECT_EQ(scrolled(SB_TOP), bar.min);
+}
+
+TEST_F(WindowHands, AScrollBarIsWorkedByTheKeyboardBehindItsBox) {
+  open(shown_, {"Form3", "chameleonButton8"});
+  auto& bar = dynamic_cast<ScrollBar&>(shown_.control("Form3", "VScroll1"));
+  const HWND window = shown_.window("Form3", "VScroll1");
+  SetFocus(shown_.window("Form3", "Text1"));
+  press(GetFocus(), VK_TAB);
+  ASSERT_EQ(GetFocus(), window);
+  const int before = bar.value();
+  press(window, VK_DOWN);
+  EXPECT_EQ(bar.value(), before + 1);
+  press(window, VK_UP);
+  EXPECT_EQ(bar.value(), before);
+  press(window, VK_END);
+  EXPECT_EQ(bar.value(), bar.max);
+  press(window, VK_HOME);
+  EXPECT_EQ(bar.value(), bar.min);
+  press(window, VK_TAB);
+  EXPECT_EQ(GetFocus(), shown_.window("Form3", "Option2"));
+}
+
+// No keyboard types them directly, so a Latin letter stands behind.
+TEST(WindowHandsIdeographs, ACaptionIsLongerWhileAltIsHeld) {
+  ShownProgram shown("zh");
+  const HWND window = shown.formWindow("Form1");
+  FormWindow& form = *FormWindow::of(window);
+  const Control& command = shown.control("Form1", "cmd_test");
+  const std::string before = form.captionOf(command);
+  form.serveKey({window, WM_SYSKEYDOWN, VK_MENU, 0, 0, {}});
+  EXPECT_TRUE(form.captionOf(command).starts_with(before + " (")) << form.captionOf(command);
+  form.serveKey({window, WM_SYSKEYUP, VK_MENU, 0, 0, {}});
+  EXPECT_EQ(form.captionOf(command), before);
 }
 
 TEST(WindowHandsRightToLeft, LeftGoesBackOnEveryKindOfControl) {

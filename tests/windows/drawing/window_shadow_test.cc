@@ -1,6 +1,7 @@
 // The shadow's window behind a form. Needs a display.
 #include <gtest/gtest.h>
 
+#include "tests/windows/accessible/shown_program.h"
 #include "tests/windows/drawing/test_window.h"
 #include "ui/win32/shadow.h"
 
@@ -167,6 +168,29 @@ TEST_F(WindowShadow, TakesNoMouse) {
   attachShadow(form_.handle());
   const RECT place = form_.rect();
   EXPECT_NE(WindowFromPoint({place.left + 50, place.top + 50}), shadow());
+}
+
+TEST(WindowShadowOfTheProgram, IsSmallAndGrey) {
+  testing::ShownProgram shown;
+  const HWND form = shown.formWindow("Form1");
+  shown.program().form.shadow = true;
+  shown.pump();
+  const HWND shadow = static_cast<HWND>(GetPropA(form, "TrickShadow"));
+  ASSERT_NE(shadow, nullptr);
+  EXPECT_EQ(GetWindowLongW(shadow, 0), 10);
+  EXPECT_EQ(GetWindowLongW(shadow, 4), 0x808080);
+  EXPECT_EQ(GetWindowLongW(shadow, 8), 25);
+  EXPECT_EQ(GetWindowLongW(shadow, 12), 50);
+  RECT around{};
+  RECT inner{};
+  GetWindowRect(shadow, &around);
+  GetWindowRect(form, &inner);
+  EXPECT_EQ(around.left, inner.left - 10);
+  EXPECT_EQ(around.bottom, inner.bottom + 10);
+  shown.program().form.shadow = false;
+  shown.pump();
+  EXPECT_EQ(GetPropA(form, "TrickShadow"), nullptr);
+  EXPECT_FALSE(IsWindow(shadow));
 }
 
 }  // namespace

@@ -59,8 +59,32 @@ TEST_P(InALanguage, CaptionsFollowTheChoiceAndComeBack) {
   EXPECT_TRUE(shows("Form2.Label2(4)", code, "Label2(4)"));
   program().click("Form2.chameleonButton4");
   EXPECT_TRUE(program().goes("Form2"));
+  program().click("Form1.cmd_option");
+  ASSERT_TRUE(program().comesUp("Form3"));
+  EXPECT_TRUE(shows("Form3.chameleonButton9", code, "chameleonButton9"));
+  EXPECT_TRUE(shows("Form3.Label2(18)", code, "Label2(18)"));
+  pressKey(VK_ESCAPE);
+  EXPECT_TRUE(program().goes("Form3"));
+  program().click("Form1.chameleonButton13");
+  ASSERT_TRUE(program().comesUp("frmabout"));
+  EXPECT_TRUE(shows("frmabout.Label2(2)", code, "Label2(2)"));
+  pressKey(VK_ESCAPE);
+  EXPECT_TRUE(program().goes("frmabout"));
   choose(0);
   EXPECT_TRUE(shows("Form1.cmd_start", "en", "cmd_start"));
+  EXPECT_TRUE(shows("Form1.cmd_settings", "en", "cmd_settings"));
+  EXPECT_TRUE(comes([&] {
+    return list("Form1.View100").header(0) ==
+           caption("en", "Form1", "View100.ColumnHeaders.Item(1)");
+  }));
+}
+
+bool isMirrored(const DrivenProgram& program) {
+  RECT form;
+  RECT command;
+  GetWindowRect(program.form("Form1"), &form);
+  GetWindowRect(program.window("Form1.cmd_start"), &command);
+  return command.left > (form.left + form.right) / 2;
 }
 
 TEST_P(InALanguage, TheCommandsStandWhereReadingBegins) {
@@ -68,13 +92,7 @@ TEST_P(InALanguage, TheCommandsStandWhereReadingBegins) {
   start();
   choose(row);
   const bool to_the_left = std::string_view(kCodes[row]) == "ar";
-  EXPECT_TRUE(comes([&] {
-    RECT form;
-    RECT command;
-    GetWindowRect(program().form("Form1"), &form);
-    GetWindowRect(program().window("Form1.cmd_start"), &command);
-    return (command.left > (form.left + form.right) / 2) == to_the_left;
-  }));
+  EXPECT_TRUE(comes([&] { return isMirrored(program()) == to_the_left; }));
 }
 
 TEST_P(InALanguage, IsInForceAtTheNextStart) {
@@ -88,6 +106,30 @@ TEST_P(InALanguage, IsInForceAtTheNextStart) {
 
 INSTANTIATE_TEST_SUITE_P(Languages, InALanguage, ::testing::Range(0, 12),
                          [](const auto& row) { return std::string(kCodes[row.param]); });
+
+class WithoutArabic : public WindowTest {
+ protected:
+  void SetUp() override {
+    WindowTest::SetUp();
+    ASSERT_TRUE(MoveFileW(file_.c_str(), away_.c_str()));
+  }
+  void TearDown() override {
+    WindowTest::TearDown();
+    EXPECT_TRUE(MoveFileW(away_.c_str(), file_.c_str()));
+  }
+
+ private:
+  const std::wstring file_ = place("lang\\tavrwipe-ar.lang");
+  const std::wstring away_ = place("lang\\away.lang");
+};
+
+// The captions stay English then, and so does their direction.
+TEST_F(WithoutArabic, NothingIsTurnedAround) {
+  set(settings::kLanguageKey, "lang", "ar");
+  start();
+  EXPECT_EQ(program().text("Form1.cmd_start"), "Erase");
+  EXPECT_FALSE(isMirrored(program()));
+}
 
 TEST_F(WindowTest, TheLanguageListClosesByItsButton) {
   start();

@@ -112,23 +112,53 @@ TEST_F(Options, ADueScheduleErasesByItself) {
   EXPECT_EQ(setting(settings::kTimerKey, "finish"), "0");
 }
 
-TEST_F(Options, AChangedStartPageIsAskedAboutAndPutBack) {
-  set(settings::kMainKey, "protect_home", "1");
-  set(settings::kMainKey, "homepage", "about:home");
-  constexpr wchar_t kOther[] = L"http://other.example/";
-  RegSetKeyValueW(HKEY_CURRENT_USER, L"software\\microsoft\\internet explorer\\main", L"Start Page",
-                  REG_SZ, kOther, sizeof(kOther));
+class StartPage : public WindowTest {
+ protected:
+  // Another page than the one that is held.
+  void SetUp() override {
+    WindowTest::SetUp();
+    set(settings::kMainKey, "protect_home", "1");
+    set(settings::kMainKey, "homepage", "about:home");
+    RegSetKeyValueW(HKEY_CURRENT_USER, kBrowser, L"Start Page", REG_SZ, kOther, sizeof(kOther));
+  }
+  static std::wstring page() {
+    wchar_t text[256] = L"";
+    DWORD size = sizeof(text);
+    RegGetValueW(HKEY_CURRENT_USER, kBrowser, L"Start Page", RRF_RT_REG_SZ, nullptr, text, &size);
+    return text;
+  }
+  HWND question() { return program().waitForBox(kTwoTicks); }
+
+  static constexpr wchar_t kOther[] = L"http://other.example/";
+
+ private:
+  static constexpr wchar_t kBrowser[] = L"software\\microsoft\\internet explorer\\main";
+};
+
+TEST_F(StartPage, IsAskedAboutWhenItChangedAndPutBack) {
   start();
-  const HWND box = program().waitForBox(kTwoTicks);
+  const HWND box = question();
   ASSERT_NE(box, nullptr);
+  constexpr std::string_view kText =
+      "The start page of your browser has been changed. Do you want to restore the page that you "
+      "protected?";
+  const std::string text = DrivenProgram::textOfBox(box);
+  EXPECT_TRUE(text.starts_with(kText)) << text;
+  EXPECT_TRUE(text.ends_with(kText)) << text;
+  EXPECT_EQ(text.size(), 2 * kText.size() + 1) << "twice, a line's end between them";
   DrivenProgram::answer(box, IDYES);
-  wchar_t page[256] = L"";
-  EXPECT_TRUE(comes([&] {
-    DWORD size = sizeof(page);
-    RegGetValueW(HKEY_CURRENT_USER, L"software\\microsoft\\internet explorer\\main", L"Start Page",
-                 RRF_RT_REG_SZ, nullptr, page, &size);
-    return std::wstring_view(page) == L"about:home";
-  }));
+  EXPECT_TRUE(comes([] { return page() == L"about:home"; }));
+  EXPECT_EQ(setting(settings::kMainKey, "homepage"), "about:home");
+}
+
+TEST_F(StartPage, IsTheOneThatIsHeldWhenThePersonWantsIt) {
+  start();
+  const HWND box = question();
+  ASSERT_NE(box, nullptr);
+  DrivenProgram::answer(box, IDNO);
+  EXPECT_TRUE(
+      comes([] { return setting(settings::kMainKey, "homepage") == "http://other.example/"; }));
+  EXPECT_EQ(page(), kOther);
 }
 
 }  // namespace

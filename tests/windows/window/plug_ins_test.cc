@@ -142,6 +142,22 @@ TEST_F(PlugIns, TheFileDialogMayBeLeft) {
   EXPECT_TRUE(program().sees("Form2"));
 }
 
+TEST_F(PlugIns, TheFileDialogBelongsToTheSettingsWhichWaitForIt) {
+  open();
+  const HWND settings = program().form("Form2");
+  program().click("Form2.chameleonButton11");
+  const HWND dialog = program().waitForBox();
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_EQ(GetWindow(dialog, GW_OWNER), settings);
+  EXPECT_TRUE(comes([&] { return GetForegroundWindow() == dialog; }));
+  EXPECT_FALSE(IsWindowEnabled(settings));
+  EXPECT_FALSE(IsWindowEnabled(program().form("Form1")));
+  pressKey(VK_ESCAPE);
+  EXPECT_TRUE(comes([&] { return IsWindowEnabled(settings) != FALSE; }));
+  EXPECT_TRUE(program().comesToFront("Form2"));
+  EXPECT_FALSE(IsWindowEnabled(program().form("Form1"))) << "the settings are still open";
+}
+
 TEST_F(PlugIns, TheInformationIsShownInTheProgramsOwnMessage) {
   open();
   clickRow(1);

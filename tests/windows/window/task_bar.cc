@@ -2,6 +2,7 @@
 
 #include <shellapi.h>
 
+#include "platform/win32/plain_window.h"
 #include "platform/win32/wide.h"
 
 namespace tavr::testing {
@@ -18,6 +19,13 @@ struct NotifyData {
   UINT flags;
   UINT message;
   wchar_t tip[128];
+  DWORD state[2];
+  wchar_t info[256];
+  UINT timeout;
+  wchar_t info_title[64];
+  DWORD info_flags;
+  GUID item;
+  UINT width_height_planes_depth[4];
 };
 
 }  // namespace
@@ -33,15 +41,7 @@ TaskBar::~TaskBar() {
 }
 
 void TaskBar::serve() {
-  WNDCLASSEXW window_class{};
-  window_class.cbSize = sizeof(window_class);
-  window_class.lpfnWndProc = &procedure;
-  window_class.hInstance = GetModuleHandleW(nullptr);
-  window_class.lpszClassName = kClass;
-  RegisterClassExW(&window_class);
-  window_ = CreateWindowExW(WS_EX_TOOLWINDOW, kClass, L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
-                            window_class.hInstance, nullptr);
-  SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  window_ = win32::makePlainWindow(kClass, &procedure, this);
   // The first of its class is found: ahead of one that the system runs.
   SetWindowPos(window_, HWND_TOPMOST, 0, 0, 1, 1, SWP_NOACTIVATE);
   made_.set_value();
@@ -69,6 +69,9 @@ void TaskBar::take(const COPYDATASTRUCT& data) {
   icon_->id = asked.id;
   if ((asked.flags & NIF_MESSAGE) != 0) icon_->message = asked.message;
   if ((asked.flags & NIF_TIP) != 0) icon_->tip = win32::narrow(asked.tip);
+  if ((asked.flags & NIF_ICON) == 0) return;
+  const auto* const bytes = static_cast<const char*>(data.lpData);
+  icon_->picture.assign(bytes + sizeof(NotifyData), bytes + data.cbData);
 }
 
 std::optional<TaskBar::Icon> TaskBar::icon() const {
@@ -88,11 +91,13 @@ bool TaskBar::losesIcon(std::uint32_t milliseconds) const {
   return !icon();
 }
 
+void TaskBar::forget() {
+  const std::scoped_lock lock(guard_);
+  icon_.reset();
+}
+
 void TaskBar::startAnew() {
-  {
-    const std::scoped_lock lock(guard_);
-    icon_.reset();
-  }
+  forget();
   PostMessageW(HWND_BROADCAST, RegisterWindowMessageW(L"TaskbarCreated"), 0, 0);
 }
 

@@ -19,6 +19,7 @@ class TaskBar {
     UINT id = 0;
     UINT message = 0;
     std::string tip;
+    std::string picture;  ///< its bytes, whatever their order
   };
 
   /// Takes the place of any other for as long as it lives.
@@ -31,6 +32,8 @@ class TaskBar {
   std::optional<Icon> icon() const;
   bool showsIcon(std::uint32_t milliseconds = 10000) const;
   bool losesIcon(std::uint32_t milliseconds = 10000) const;
+  /// Drops the icon of a program that could not take it away.
+  void forget();
   /// Forgets all icons and tells everybody that the task bar is a new one.
   void startAnew();
   /// The mouse on the icon.

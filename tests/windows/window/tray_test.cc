@@ -1,4 +1,5 @@
 // The icon in the notification area, its menu, and the ways out of sight.
+#include "config/maker_site.h"
 #include "services/settings_keys.h"
 #include "tests/windows/window/task_bar.h"
 #include "tests/windows/window/window_test.h"
@@ -7,10 +8,18 @@ namespace tavr::testing {
 namespace {
 
 constexpr wchar_t kMenuClass[] = L"#32768";
+// Steps down from above the first entry.
+constexpr int kSiteEntry = 1;
+constexpr int kHelpEntry = 2;
 constexpr int kEraseEntry = 3;
-constexpr int kOptionsEntry = 4;  // steps down from above the first entry
+constexpr int kOptionsEntry = 4;
 constexpr int kSettingsEntry = 5;
+constexpr int kPlugInsEntry = 6;
 constexpr int kExitEntry = 7;
+
+// As lang\\english.ini has it.
+const std::string kNotOpened =
+    "The web page could not be opened. Please visit this address with your browser:\r\n";
 
 class Tray : public WindowTest {
  protected:
@@ -24,6 +33,17 @@ class Tray : public WindowTest {
     EXPECT_TRUE(comes([this] { return program().windowOfClass(kMenuClass) != nullptr; }));
     for (int i = 0; i < entry; ++i) pressKey(VK_DOWN);
     pressKey(VK_RETURN);
+  }
+
+  // An icon of one size, 16 x 16 in red.
+  static std::string redPicture() {
+    constexpr int kSide = 16;
+    const std::string header("\0\0\1\0\1\0\x10\x10\0\0\1\0\x20\0\x68\4\0\0\x16\0\0\0", 22);
+    BITMAPINFOHEADER format{sizeof(format), kSide, 2 * kSide, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    std::string picture = header;
+    picture.append(reinterpret_cast<const char*>(&format), sizeof(format));
+    for (int i = 0; i < kSide * kSide; ++i) picture.append("\0\0\xFF\xFF", 4);
+    return picture.append(kSide * 4, '\0');  // the mask
   }
 
   TaskBar bar;
@@ -75,6 +95,114 @@ TEST_F(Tray, TheMenuOpensTheOptions) {
   ASSERT_TRUE(bar.showsIcon());
   choose(kOptionsEntry);
   EXPECT_TRUE(program().comesUp("Form3"));
+}
+
+// Windows has no program "Start", so a message with the address comes. Wine has
+// one, which is out of the way here.
+class TrayPages : public Tray {
+ protected:
+  void SetUp() override {
+    Tray::SetUp();
+    ASSERT_TRUE(MoveFileW(kStart, kAway));
+  }
+  void TearDown() override {
+    Tray::TearDown();
+    EXPECT_TRUE(MoveFileW(kAway, kStart));
+  }
+
+ private:
+  static constexpr wchar_t kStart[] = L"C:\\windows\\system32\\start.exe";
+  static constexpr wchar_t kAway[] = L"C:\\windows\\system32\\start.away";
+};
+
+TEST_F(TrayPages, TheMenuTellsTheAddressOfTheSite) {
+  start();
+  minimise();
+  ASSERT_TRUE(bar.showsIcon());
+  choose(kSiteEntry);
+  ASSERT_TRUE(program().comesUp("frmmsg"));
+  EXPECT_EQ(program().text("frmmsg"), "Tavr Wipe Pro");
+  EXPECT_EQ(program().text("frmmsg.Text1"), kNotOpened + std::string(kMakerSite));
+  program().click("frmmsg.chameleonButton1");
+  EXPECT_TRUE(program().goes("frmmsg"));
+  EXPECT_FALSE(program().sees("Form1"));
+}
+
+TEST_F(TrayPages, TheMenuTellsTheAddressOfThePlugIns) {
+  start();
+  minimise();
+  ASSERT_TRUE(bar.showsIcon());
+  choose(kPlugInsEntry);
+  ASSERT_TRUE(program().comesUp("frmmsg"));
+  EXPECT_EQ(program().text("frmmsg.Text1"),
+            kNotOpened + std::string(kMakerSite) + std::string(kPlugInPage));
+  program().click("frmmsg.command2");
+  EXPECT_TRUE(program().goes("frmmsg"));
+}
+
+TEST_F(Tray, TheMenusHelpDoesNothing) {
+  start();
+  minimise();
+  ASSERT_TRUE(bar.showsIcon());
+  choose(kHelpEntry);
+  EXPECT_TRUE(comes([this] { return program().windowOfClass(kMenuClass) == nullptr; }));
+  Sleep(500);
+  EXPECT_TRUE(program().running());
+  for (const char* const form : {"Form1", "Form2", "Form3", "frmabout", "frmmsg"}) {
+    EXPECT_FALSE(program().sees(form)) << form;
+  }
+  choose(kOptionsEntry);
+  EXPECT_TRUE(program().comesUp("Form3"));
+}
+
+TEST_F(Tray, ADialogOfTheMenuClosesAndLeavesTheIcon) {
+  start();
+  minimise();
+  ASSERT_TRUE(bar.showsIcon());
+  choose(kSettingsEntry);
+  ASSERT_TRUE(program().comesUp("Form2"));
+  program().click("Form2.chameleonButton4");
+  EXPECT_TRUE(program().goes("Form2"));
+  EXPECT_FALSE(program().sees("Form1"));
+  EXPECT_TRUE(bar.icon());
+}
+
+TEST_F(Tray, AMoveAndTheEndOfAPressAreNoCommands) {
+  start();
+  minimise();
+  ASSERT_TRUE(bar.showsIcon());
+  for (const UINT message : {WM_MOUSEMOVE, WM_LBUTTONUP, WM_RBUTTONUP}) bar.mouse(message);
+  Sleep(500);
+  EXPECT_FALSE(program().sees("Form1"));
+  EXPECT_EQ(program().windowOfClass(kMenuClass), nullptr);
+  EXPECT_TRUE(bar.icon());
+}
+
+TEST_F(Tray, ADoubleClickOfTheRightButtonBringsTheWindowBackToo) {
+  start();
+  minimise();
+  ASSERT_TRUE(bar.showsIcon());
+  bar.mouse(WM_RBUTTONDBLCLK);
+  EXPECT_TRUE(program().comesUp("Form1"));
+  EXPECT_TRUE(bar.losesIcon());
+}
+
+TEST_F(Tray, APictureBesideTheProgramTakesThePlaceOfItsOwn) {
+  start();
+  minimise();
+  ASSERT_TRUE(bar.showsIcon());
+  const std::string own = bar.icon()->picture;
+  EXPECT_NE(own, "");
+  end();
+  bar.forget();
+  write("tray.ico", redPicture());
+  start();
+  minimise();
+  ASSERT_TRUE(bar.showsIcon());
+  const std::string other = bar.icon()->picture;
+  DeleteFileW(place("tray.ico").c_str());
+  EXPECT_NE(other, "");
+  EXPECT_NE(other, own);
 }
 
 TEST_F(Tray, TheMenuErases) {
