@@ -24,8 +24,8 @@ class Wmi {
 
   /// Binds "winmgmts:" and runs a query over Win32_Process; `ids` receives the
   /// property processid of each answer, in the machine's order. Name in the
-  /// query compares without case. False: WMI is absent, refuses, or cannot
-  /// read the query.
+  /// query compares without case. An answer that breaks off counts as far as it
+  /// came. False: WMI is absent, refuses, or cannot read the query.
   virtual bool queryProcessIds(std::string_view query, std::vector<std::uint32_t>& ids) = 0;
 };
 

@@ -8,8 +8,11 @@ namespace {
 
 thread_local int open_dialogs = 0;
 
+// But for the tray's own, whose menu is served while a dialog is open.
 BOOL CALLBACK collectEnabled(HWND window, LPARAM data) {
-  if (IsWindowEnabled(window)) reinterpret_cast<std::vector<void*>*>(data)->push_back(window);
+  const bool is_tool = (GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_TOOLWINDOW) != 0;
+  if (!is_tool && IsWindowEnabled(window))
+    reinterpret_cast<std::vector<void*>*>(data)->push_back(window);
   return TRUE;
 }
 

@@ -52,9 +52,7 @@ bool Win32Wmi::queryProcessIds(std::string_view query, std::vector<std::uint32_t
     return false;
   }
   impersonate(answers.get());
-  if (readIds(answers.get(), ids)) return true;
-  ids.clear();
-  return false;
+  return readIds(answers.get(), ids) || !ids.empty();
 }
 
 }  // namespace tavr::win32

@@ -198,6 +198,8 @@ HRESULT AccessibleObject::accDoDefaultAction(VARIANT child) {
   const AccessibleFacts facts = source_->accessibleFacts();
   if (facts.action.empty()) return DISP_E_MEMBERNOTFOUND;
   if ((facts.state & STATE_SYSTEM_UNAVAILABLE) != 0) return S_FALSE;
+  // A dialog or a question above the form holds every other hand off it, too.
+  if (!IsWindowEnabled(GetAncestor(window_, GA_ROOT))) return S_FALSE;
   source_->accessiblePress();
   return S_OK;
 }

@@ -8,6 +8,12 @@
 
 namespace tavr::win32 {
 
+namespace {
+
+constexpr WPARAM kAnyButton = MK_LBUTTON | MK_RBUTTON | MK_MBUTTON;
+
+}  // namespace
+
 LRESULT CALLBACK drawnControlProcedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   if (message == WM_NCCREATE) {
     const auto* const create = reinterpret_cast<const CREATESTRUCTW*>(lparam);
@@ -104,32 +110,31 @@ void DrawnControl::mouseMoved(WPARAM keys, LPARAM point) {
     held_ = inside;
     invalidate();
   }
-  onMove((keys & (MK_LBUTTON | MK_RBUTTON | MK_MBUTTON)) != 0);
+  onMove((keys & kAnyButton) != 0);
 }
 
 void DrawnControl::mouseDown(MouseButton button) {
-  if (button != MouseButton::kRight) {
-    if (button == MouseButton::kLeft) {
-      form_.hideFocus();
-      if (control_.design.tab >= 0) SetFocus(window_);
-      held_ = true;
-    }
-    captures_ = false;
-    SetCapture(window_);
-    captures_ = true;
-    invalidate();
+  if (button == MouseButton::kLeft) {
+    form_.hideFocus();
+    if (control_.design.tab >= 0) SetFocus(window_);
+    held_ = true;
   }
+  captures_ = false;
+  SetCapture(window_);
+  captures_ = true;
+  if (button != MouseButton::kRight) invalidate();
   onDown(button);
 }
 
-void DrawnControl::mouseUp(MouseButton button) {
+// The mouse is kept until the last button is up: the others come up here, too.
+void DrawnControl::mouseUp(MouseButton button, WPARAM keys) {
   const bool inside = held_;
   if (button == MouseButton::kLeft) held_ = false;
-  if (button != MouseButton::kRight) {
+  if ((keys & kAnyButton) == 0) {
     captures_ = false;
     ReleaseCapture();
-    invalidate();
   }
+  if (button != MouseButton::kRight) invalidate();
   onUp(button, inside);
 }
 
@@ -154,20 +159,20 @@ bool DrawnControl::handleMouse(UINT message, WPARAM wparam, LPARAM lparam) {
       mouseDown(MouseButton::kLeft);
       return true;
     case WM_LBUTTONUP:
-      mouseUp(MouseButton::kLeft);
+      mouseUp(MouseButton::kLeft, wparam);
       return true;
     case WM_RBUTTONDOWN:
       mouseDown(MouseButton::kRight);
       return true;
     case WM_RBUTTONUP:
-      mouseUp(MouseButton::kRight);
+      mouseUp(MouseButton::kRight, wparam);
       return true;
     case WM_MBUTTONDOWN:
     case WM_MBUTTONDBLCLK:
       mouseDown(MouseButton::kMiddle);
       return true;
     case WM_MBUTTONUP:
-      mouseUp(MouseButton::kMiddle);
+      mouseUp(MouseButton::kMiddle, wparam);
       return true;
     default:
       return false;

@@ -52,7 +52,7 @@ class DrawnControl : public BoundControl, private AccessibleSource {
   bool handleMouse(UINT message, WPARAM wparam, LPARAM lparam);
   void mouseMoved(WPARAM keys, LPARAM point);
   void mouseDown(MouseButton button);
-  void mouseUp(MouseButton button);
+  void mouseUp(MouseButton button, WPARAM keys);
   void letGo();
   DrawnState state() const;
   AccessibleFacts accessibleFacts() const override;

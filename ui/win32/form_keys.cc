@@ -18,7 +18,8 @@ Control* FormWindow::focused() const {
 }
 
 void FormWindow::focusFirst() {
-  if (focused()) return;  // the click that activates the form has put it there
+  // The click that activates the form has put it there.
+  if (const Control* const at = focused(); at && at->enabled) return;
   Control* target = last_focus_;
   if (!target || !target->enabled || !inSight(form_, *target)) {
     target = nextFocus(form_, nullptr, false);
@@ -55,8 +56,13 @@ void FormWindow::moveFocusFrom(Control& control) {
   }
   if (!concerned) return;
   Control* const to = nextFocus(form_, before, false);
-  BoundControl* const bound = to && to != before ? boundOf(*to) : nullptr;
-  SetFocus(bound ? bound->window() : window_);
+  if (BoundControl* const bound = to && to != before ? boundOf(*to) : nullptr) {
+    // Its own turn may still be to come, and a disabled window refuses the focus.
+    EnableWindow(bound->window(), TRUE);
+    SetFocus(bound->window());
+    if (focused() == to) return;
+  }
+  SetFocus(window_);
 }
 
 void FormWindow::enable(BoundControl& bound, bool on) {
@@ -160,6 +166,10 @@ bool FormWindow::serveKey(const MSG& message) {
       if (message.wParam == VK_MENU) showCues(false);
       return false;
     case WM_SYSCHAR:
+      // Where nothing has the focus plain letters come as these, too; and one that
+      // is held presses once.
+      if ((message.lParam & (KF_ALTDOWN << 16)) == 0) return false;
+      if (isRepeated(message.lParam)) return true;
       showFocus();
       return serveAccessKey(message.wParam);
     default:

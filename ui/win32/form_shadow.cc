@@ -46,6 +46,8 @@ void FormWindow::setShadow(bool on) {
   SetWindowLongPtrW(shadow, GWL_EXSTYLE, GetWindowLongPtrW(shadow, GWL_EXSTYLE) | WS_EX_NOACTIVATE);
   setShadowSize(window_, kShadowSize);
   setShadowColor(window_, kShadowColor);
+  // It is made shown; one of a form that is not comes with the form.
+  if (!IsWindowVisible(window_)) ShowWindow(shadow, SW_HIDE);
 }
 
 }  // namespace tavr::win32

@@ -56,7 +56,9 @@ LRESULT CALLBACK TrayWindow::procedure(HWND window, UINT message, WPARAM wparam,
     return 0;
   }
   if (message == tray->task_bar_created_ && icon.visible()) {
-    tray->actions_.post(tray, [tray, &icon] { tray->desktop_.addTrayIcon(icon.record().tip); });
+    tray->actions_.post(tray, [tray, &icon] {
+      if (icon.visible()) tray->desktop_.addTrayIcon(icon.record().tip);
+    });
     return 0;
   }
   return DefWindowProcW(window, message, wparam, lparam);

@@ -156,12 +156,15 @@ void WindowSet::syncForm(std::string_view name) {
   if (!form) return;
   if (!window) {
     if (!form->visible) return;
+    const FormWindow* const from = FormWindow::of(GetActiveWindow());
     window = std::make_unique<FormWindow>(*form, mainWindow(), actions_, program_.machine.dialogs,
                                           eventsOf(name));
     form->onTopmost = [handle = window->window()](bool on) {
       SetWindowPos(handle, on ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
                    SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     };
+    // Opened by the keyboard, it shows where the keyboard is.
+    if (from && from->showsFocus()) window->showFocus();
   }
   window->setLanguage(program_.language.lang);
   window->sync(stripOf(*form), rightToLeft(), name != kMain || main_loaded_);

@@ -271,6 +271,15 @@ TEST_F(AccessTest, AFilesListHasRoomForTwoEntriesAndFourBytesMore) {
   EXPECT_EQ(files().lists["C:\\d\\a"].dacl->size(), 8U + 20 + 2 * (12 + 12) - 4);
 }
 
+TEST_F(AccessTest, AFilesListIsSetWithoutTheMarksOfTheOldOne) {
+  SecurityDescriptor& list = files().lists["C:\\d\\a"];
+  list.control = 0x8004 | kDaclAutoInherited | kDaclProtected;
+  list.dacl = listOf({AccessEntry(kAceAllowed, 0, 3, kSystem)});
+  grantFile("C:\\d\\a");
+  EXPECT_EQ(files().written, 1);
+  EXPECT_EQ(files().lists["C:\\d\\a"].control, 0);
+}
+
 TEST_F(AccessTest, AFileWithoutAListOrWithAnEmptyOneStaysAsItIs) {
   grantFile("C:\\d\\a");
   files().lists["C:\\d\\sub"].dacl = listOf({});

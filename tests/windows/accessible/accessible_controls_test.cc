@@ -128,6 +128,42 @@ TEST(AccessibleControls, AToolIsNamedLikeItsCommandAndSoIsItsTip) {
   EXPECT_EQ(ask(shown.window("Form1", "Toolbar1(8)")).name, "Löschen");
 }
 
+TEST(AccessibleControls, AButtonIsPressedWhileItIsHeldAndPointedAtWhileItIs) {
+  ShownProgram shown;
+  shown.program().form.chameleonButton11.onClick = nullptr;  // it would end the program
+  const HWND window = shown.window("Form1", "chameleonButton11");
+  const auto told = [&](UINT message, WPARAM keys) {
+    SendMessageW(window, message, keys, MAKELPARAM(5, 5));
+    shown.pump();
+    return ask(window);
+  };
+  EXPECT_FALSE(ask(window).has(STATE_SYSTEM_PRESSED));
+  EXPECT_TRUE(told(WM_MOUSEMOVE, 0).has(STATE_SYSTEM_HOTTRACKED));
+  EXPECT_TRUE(told(WM_LBUTTONDOWN, MK_LBUTTON).has(STATE_SYSTEM_PRESSED));
+  EXPECT_FALSE(told(WM_LBUTTONUP, 0).has(STATE_SYSTEM_PRESSED));
+  EXPECT_FALSE(told(WM_MOUSELEAVE, 0).has(STATE_SYSTEM_HOTTRACKED));
+}
+
+TEST(AccessibleControls, AButtonWithAValueIsPressedOnlyWhereItBehavesAsABox) {
+  ShownProgram shown;
+  ChameleonButton& button = shown.program().form.chameleonButton11;
+  const HWND window = shown.window("Form1", "chameleonButton11");
+  button.value = true;
+  EXPECT_FALSE(ask(window).has(STATE_SYSTEM_PRESSED));
+  button.check_box_behaviour = true;
+  EXPECT_TRUE(ask(window).has(STATE_SYSTEM_PRESSED));
+}
+
+TEST(AccessibleControls, NothingIsPressedThroughADialogThatStandsAboveItsForm) {
+  ShownProgram shown;
+  const ComPointer<IAccessible> object = accessibleOf(shown.window("Form1", "cmd_option"));
+  ASSERT_TRUE(object);
+  open(shown, {"Form2", "cmd_plugin"});
+  EXPECT_EQ(object->accDoDefaultAction(self()), S_FALSE);
+  shown.pump();
+  EXPECT_EQ(shown.program().desk.loaded("Form3"), nullptr);
+}
+
 // Natively Windows gives a list its rows, and reads its own boxes out.
 TEST(AccessibleControls, TheTickOfAPlugInIsTheListsOwn) {
   ShownProgram shown;

@@ -40,6 +40,79 @@ TEST_F(WindowButtons, TheMiddleButtonGoesDownAndUpButDoesNotClick) {
   EXPECT_EQ(told, (std::vector<std::string>{"down 4", "up 4"}));
 }
 
+TEST_F(WindowButtons, ARightClickIsToldAndLeavesTheDrawingAlone) {
+  std::vector<std::string> told;
+  button_.onMouseDown = [&told](MouseButton) { told.emplace_back("down"); };
+  button_.onMouseUp = [&told](MouseButton) { told.emplace_back("up"); };
+  button_.onClick = [&told] { told.emplace_back("click"); };
+  UpdateWindow(window());
+  ValidateRect(window(), nullptr);
+  SendMessageW(window(), WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(5, 5));
+  EXPECT_EQ(GetCapture(), window()) << "it comes up here, wherever that is";
+  SendMessageW(window(), WM_RBUTTONUP, 0, MAKELPARAM(-30, 5));
+  EXPECT_FALSE(GetUpdateRect(window(), nullptr, FALSE));
+  shown_.pump();
+  EXPECT_EQ(button_.state(), ChameleonButton::State::kNormal);
+  EXPECT_EQ(told, (std::vector<std::string>{"down", "up"}));
+  EXPECT_EQ(GetCapture(), nullptr);
+}
+
+TEST_F(WindowButtons, AnotherButtonThatComesUpLeavesTheHeldOneItsMouse) {
+  int clicks = 0;
+  button_.onClick = [&clicks] { ++clicks; };
+  send(WM_LBUTTONDOWN, MK_LBUTTON);
+  send(WM_MBUTTONDOWN, MK_LBUTTON | MK_MBUTTON);
+  send(WM_MBUTTONUP, MK_LBUTTON);
+  EXPECT_EQ(GetCapture(), window());
+  send(WM_LBUTTONUP);
+  EXPECT_EQ(GetCapture(), nullptr);
+  EXPECT_EQ(button_.state(), ChameleonButton::State::kNormal);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(WindowButtons, AHandPointsAtOneThatWantsIt) {
+  const auto cursor = [this] {
+    SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+    SendMessageW(window(), WM_SETCURSOR, reinterpret_cast<WPARAM>(window()),
+                 MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    return GetCursor();
+  };
+  button_.hand_pointer = true;
+  EXPECT_EQ(cursor(), LoadCursorW(nullptr, IDC_HAND));
+  button_.hand_pointer = false;
+  EXPECT_EQ(cursor(), LoadCursorW(nullptr, IDC_ARROW));
+}
+
+TEST_F(WindowButtons, WithItsRefreshDisabledAPressIsNotShownBeforeTheNextRefresh) {
+  const auto picture = [this] {
+    const HDC screen = GetDC(nullptr);
+    const HDC dc = CreateCompatibleDC(screen);
+    RECT area{};
+    GetClientRect(window(), &area);
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, area.right, area.bottom);
+    const HGDIOBJ before = SelectObject(dc, bitmap);
+    SendMessageW(window(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
+    std::vector<COLORREF> pixels;
+    for (int y = 0; y < area.bottom; ++y) {
+      for (int x = 0; x < area.right; ++x) pixels.push_back(GetPixel(dc, x, y));
+    }
+    SelectObject(dc, before);
+    DeleteObject(bitmap);
+    DeleteDC(dc);
+    ReleaseDC(nullptr, screen);
+    return pixels;
+  };
+  button_.onClick = nullptr;
+  send(WM_MOUSEMOVE);
+  button_.DisableRefresh();
+  const std::vector<COLORREF> before = picture();
+  send(WM_LBUTTONDOWN, MK_LBUTTON);
+  EXPECT_EQ(picture(), before);
+  button_.Refresh();
+  shown_.pump();
+  EXPECT_NE(picture(), before);
+}
+
 // Both are served before anything that they queue.
 TEST_F(WindowButtons, AMouseThatLeavesQuicklyIsNoticedByTheNextTick) {
   SendMessageW(window(), WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "tests/windows/accessible/shown_program.h"
+#include "ui/win32/access_keys.h"
 #include "ui/win32/form_window.h"
 
 namespace tavr::win32::testing {
@@ -52,6 +53,46 @@ TEST_F(WindowHands, AKeyThatIsHeldPressesOnce) {
   EXPECT_EQ(clicks, 2);
 }
 
+TEST_F(WindowHands, AnAccessKeyThatIsHeldPressesOnceAndWantsAlt) {
+  constexpr LPARAM kAlt = LPARAM{KF_ALTDOWN} << 16;
+  int clicks = 0;
+  main().cmd_test.onClick = [&clicks] { ++clicks; };
+  const HWND button = shown_.window("Form1", "cmd_test");
+  FormWindow* const form = FormWindow::of(button);
+  wchar_t letter = 0;
+  for (const AccessKey& key : accessKeys(form->form())) {
+    if (key.target == &main().cmd_test) letter = static_cast<wchar_t>(key.letter);
+  }
+  ASSERT_NE(letter, 0);
+  const auto typed = [&](LPARAM data) {
+    form->serveKey({button, WM_SYSCHAR, letter, data, 0, {}});
+    shown_.pump();
+    return clicks;
+  };
+  EXPECT_EQ(typed(0), 0) << "a letter that came without a focus";
+  EXPECT_EQ(typed(kAlt), 1);
+  EXPECT_EQ(typed(kAlt | kRepeated), 1);
+  EXPECT_EQ(typed(kAlt), 2);
+}
+
+// As a run does with its commands: the one that is pressed goes before the one that
+// ends it comes.
+TEST_F(WindowHands, TheFocusGoesOnFromACommandThatIsDisabled) {
+  main().cmd_stop.enabled = false;
+  shown_.pump();
+  SetFocus(shown_.window("Form1", "cmd_test"));
+  for (Button* const button : {&main().cmd_test, &main().cmd_start, &main().cmd_view}) {
+    button->enabled = false;
+  }
+  main().cmd_stop.enabled = true;
+  shown_.pump();
+  EXPECT_EQ(GetFocus(), shown_.window("Form1", "cmd_stop"));
+  main().cmd_stop.enabled = false;
+  main().cmd_view.enabled = true;
+  shown_.pump();
+  EXPECT_EQ(GetFocus(), shown_.window("Form1", "cmd_view"));
+}
+
 TEST_F(WindowHands, TheSpaceBarThatIsHeldWhileTheFocusGoesDoesNotPress) {
   int clicks = 0;
   ChameleonButton& button = main().chameleonButton11;
@@ -65,6 +106,23 @@ TEST_F(WindowHands, TheSpaceBarThatIsHeldWhileTheFocusGoesDoesNotPress) {
   EXPECT_EQ(button.state(), ChameleonButton::State::kNormal);
   send(window, WM_KEYUP, VK_SPACE);
   EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(WindowHands, ADialogShowsWhereTheKeyboardIsThatOpenedIt) {
+  const HWND command = shown_.window("Form1", "cmd_option");
+  SetFocus(command);
+  press(command, VK_TAB);
+  press(command, VK_RETURN);
+  ASSERT_NE(shown_.formWindow("Form3"), nullptr);
+  EXPECT_TRUE(FormWindow::of(shown_.formWindow("Form3"))->showsFocus());
+}
+
+TEST_F(WindowHands, ADialogThatTheMouseOpenedShowsNoFocus) {
+  const HWND command = shown_.window("Form1", "cmd_option");
+  send(command, WM_LBUTTONDOWN, MK_LBUTTON);
+  send(command, WM_LBUTTONUP);
+  ASSERT_NE(shown_.formWindow("Form3"), nullptr);
+  EXPECT_FALSE(FormWindow::of(shown_.formWindow("Form3"))->showsFocus());
 }
 
 TEST_F(WindowHands, EscClosesAnOpenListBeforeTheForm) {

@@ -2,6 +2,7 @@
 // with what draws them and the fonts that there are.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <iterator>
 #include <string>
 #include <tuple>
@@ -75,5 +76,27 @@ INSTANTIATE_TEST_SUITE_P(Forms, WindowLayout,
                          ::testing::Combine(::testing::Range(0, kLanguageCount),
                                             ::testing::ValuesIn(kFormPanels)),
                          nameOfForm);
+
+TEST(WindowLayoutOfLanguages, TheOpenListShowsEveryNameWhole) {
+  for (const char* const language : {"en", "ar"}) {
+    SCOPED_TRACE(language);
+    ShownProgram shown(language);
+    shown.control("Form1", "chameleonButton12").press();
+    shown.pump();
+    const auto names = std::ranges::count_if(shown.shown("Form1"), [](const BoundControl* bound) {
+      return bound->control().design.name == "lbllanguage";
+    });
+    EXPECT_EQ(names, kLanguageCount);
+    MeasuredForm measured(shown, "Form1");
+    for (const int dpi : kResolutions) {
+      SCOPED_TRACE(std::to_string(dpi) + " dpi");
+      measured.at(dpi);
+      EXPECT_EQ(measured.clipped(), "");
+      EXPECT_EQ(measured.overlapping(), "");
+      EXPECT_EQ(measured.outside(), "");
+    }
+  }
+}
+
 }  // namespace
 }  // namespace tavr::win32::testing

@@ -170,9 +170,24 @@ TEST_F(WindowShadow, TakesNoMouse) {
   EXPECT_NE(WindowFromPoint({place.left + 50, place.top + 50}), shadow());
 }
 
+TEST(WindowShadowOfTheProgram, OfAFormThatIsHiddenIsNotSeen) {
+  testing::ShownProgram shown;
+  shown.program().form.visible = false;
+  shown.program().form.shadow = true;
+  shown.pump();
+  const HWND shadow = static_cast<HWND>(GetPropA(shown.formWindow("Form1"), "TrickShadow"));
+  ASSERT_NE(shadow, nullptr);
+  EXPECT_FALSE(IsWindowVisible(shadow));
+  shown.program().form.visible = true;
+  shown.pump();
+  EXPECT_TRUE(IsWindowVisible(shadow));
+}
+
 TEST(WindowShadowOfTheProgram, IsSmallAndGrey) {
   testing::ShownProgram shown;
   const HWND form = shown.formWindow("Form1");
+  // A window manager draws what begins beyond the screen's edge back into it.
+  SetWindowPos(form, nullptr, 200, 150, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   shown.program().form.shadow = true;
   shown.pump();
   const HWND shadow = static_cast<HWND>(GetPropA(form, "TrickShadow"));
