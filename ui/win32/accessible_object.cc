@@ -173,7 +173,9 @@ HRESULT AccessibleObject::accSelect(long flags, VARIANT child) {
   if (found != S_OK) return found;
   if (flags != SELFLAG_TAKEFOCUS) return E_INVALIDARG;
   if ((source_->accessibleFacts().state & STATE_SYSTEM_FOCUSABLE) == 0) return S_FALSE;
-  SetForegroundWindow(GetAncestor(window_, GA_ROOT));
+  const HWND form = GetAncestor(window_, GA_ROOT);
+  if (!IsWindowEnabled(form)) return S_FALSE;
+  SetForegroundWindow(form);
   SetFocus(window_);
   return GetFocus() == window_ ? S_OK : S_FALSE;
 }

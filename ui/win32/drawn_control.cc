@@ -64,7 +64,10 @@ std::string DrawnControl::accessibleShortcut() const {
 }
 
 void DrawnControl::accessiblePress() {
-  post([&control = control_] { control.press(); });
+  // What was pressed before it may have opened a dialog above the form.
+  post([this] {
+    if (form_.form().enabled) control_.press();
+  });
 }
 
 void DrawnControl::paint(HDC dc) {
@@ -94,11 +97,14 @@ void DrawnControl::syncOwn() {
   invalidate();
 }
 
-void DrawnControl::mouseMoved(WPARAM keys, LPARAM point) {
-  const POINT at{GET_X_LPARAM(point), GET_Y_LPARAM(point)};
+bool DrawnControl::contains(LPARAM point) const {
   RECT area;
   GetClientRect(window_, &area);
-  const bool inside = PtInRect(&area, at) != FALSE;
+  return PtInRect(&area, {GET_X_LPARAM(point), GET_Y_LPARAM(point)}) != FALSE;
+}
+
+void DrawnControl::mouseMoved(WPARAM keys, LPARAM point) {
+  const bool inside = contains(point);
   if (inside && !hovered_) {
     TRACKMOUSEEVENT leave{sizeof(leave), TME_LEAVE, window_, 0};
     TrackMouseEvent(&leave);
@@ -113,7 +119,9 @@ void DrawnControl::mouseMoved(WPARAM keys, LPARAM point) {
   onMove((keys & kAnyButton) != 0);
 }
 
-void DrawnControl::mouseDown(MouseButton button) {
+// With another button held down on it, one that goes down beside it comes here, too.
+void DrawnControl::mouseDown(MouseButton button, LPARAM point) {
+  if (!contains(point)) return;
   if (button == MouseButton::kLeft) {
     form_.hideFocus();
     if (control_.design.tab >= 0) SetFocus(window_);
@@ -156,20 +164,20 @@ bool DrawnControl::handleMouse(UINT message, WPARAM wparam, LPARAM lparam) {
       return true;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
-      mouseDown(MouseButton::kLeft);
+      mouseDown(MouseButton::kLeft, lparam);
       return true;
     case WM_LBUTTONUP:
       mouseUp(MouseButton::kLeft, wparam);
       return true;
     case WM_RBUTTONDOWN:
-      mouseDown(MouseButton::kRight);
+      mouseDown(MouseButton::kRight, lparam);
       return true;
     case WM_RBUTTONUP:
       mouseUp(MouseButton::kRight, wparam);
       return true;
     case WM_MBUTTONDOWN:
     case WM_MBUTTONDBLCLK:
-      mouseDown(MouseButton::kMiddle);
+      mouseDown(MouseButton::kMiddle, lparam);
       return true;
     case WM_MBUTTONUP:
       mouseUp(MouseButton::kMiddle, wparam);

@@ -51,7 +51,8 @@ class DrawnControl : public BoundControl, private AccessibleSource {
   LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam);
   bool handleMouse(UINT message, WPARAM wparam, LPARAM lparam);
   void mouseMoved(WPARAM keys, LPARAM point);
-  void mouseDown(MouseButton button);
+  bool contains(LPARAM point) const;
+  void mouseDown(MouseButton button, LPARAM point);
   void mouseUp(MouseButton button, WPARAM keys);
   void letGo();
   DrawnState state() const;

@@ -30,8 +30,7 @@ void FormWindow::focusFirst() {
       if (target == first) break;
     }
   }
-  BoundControl* const bound = target ? boundOf(*target) : nullptr;
-  SetFocus(bound ? bound->window() : window_);
+  giveFocus(target);
 }
 
 void FormWindow::moveFocus(bool back, bool in_group) {
@@ -55,9 +54,15 @@ void FormWindow::moveFocusFrom(Control& control) {
     concerned = at == &control;
   }
   if (!concerned) return;
-  Control* const to = nextFocus(form_, before, false);
-  if (BoundControl* const bound = to && to != before ? boundOf(*to) : nullptr) {
-    // Its own turn may still be to come, and a disabled window refuses the focus.
+  Control* to = isGrouped(*before) ? nextInGroup(form_, *before, false) : nullptr;
+  if (!to || to == before) to = nextFocus(form_, before, false);
+  giveFocus(to != before ? to : nullptr);
+}
+
+// Its own turn to be brought up to date may still be to come, and a disabled window
+// refuses the focus.
+void FormWindow::giveFocus(Control* to) {
+  if (BoundControl* const bound = to ? boundOf(*to) : nullptr) {
     EnableWindow(bound->window(), TRUE);
     SetFocus(bound->window());
     if (focused() == to) return;

@@ -47,7 +47,7 @@ void FormWindow::setShadow(bool on) {
   setShadowSize(window_, kShadowSize);
   setShadowColor(window_, kShadowColor);
   // It is made shown; one of a form that is not comes with the form.
-  if (!IsWindowVisible(window_)) ShowWindow(shadow, SW_HIDE);
+  if (!IsWindowVisible(window_) || IsIconic(window_)) ShowWindow(shadow, SW_HIDE);
 }
 
 }  // namespace tavr::win32

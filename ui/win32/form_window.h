@@ -111,6 +111,7 @@ class FormWindow {
   Control* focused() const;
   void focusFirst();
   void moveFocusFrom(Control& control);
+  void giveFocus(Control* to);
 
   bool serveAccessKey(WPARAM character);
   bool pressDefault(bool repeated);

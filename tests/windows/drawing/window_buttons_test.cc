@@ -45,14 +45,13 @@ TEST_F(WindowButtons, ARightClickIsToldAndLeavesTheDrawingAlone) {
   button_.onMouseDown = [&told](MouseButton) { told.emplace_back("down"); };
   button_.onMouseUp = [&told](MouseButton) { told.emplace_back("up"); };
   button_.onClick = [&told] { told.emplace_back("click"); };
-  UpdateWindow(window());
-  ValidateRect(window(), nullptr);
-  SendMessageW(window(), WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(5, 5));
+  int draws = 0;
+  button_.onDraw = [&draws](int) { ++draws; };
+  send(WM_RBUTTONDOWN, MK_RBUTTON);
   EXPECT_EQ(GetCapture(), window()) << "it comes up here, wherever that is";
-  SendMessageW(window(), WM_RBUTTONUP, 0, MAKELPARAM(-30, 5));
-  EXPECT_FALSE(GetUpdateRect(window(), nullptr, FALSE));
-  shown_.pump();
   EXPECT_EQ(button_.state(), ChameleonButton::State::kNormal);
+  send(WM_RBUTTONUP, 0, MAKELPARAM(-30, 5));
+  EXPECT_EQ(draws, 0);
   EXPECT_EQ(told, (std::vector<std::string>{"down", "up"}));
   EXPECT_EQ(GetCapture(), nullptr);
 }
@@ -68,6 +67,20 @@ TEST_F(WindowButtons, AnotherButtonThatComesUpLeavesTheHeldOneItsMouse) {
   EXPECT_EQ(GetCapture(), nullptr);
   EXPECT_EQ(button_.state(), ChameleonButton::State::kNormal);
   EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(WindowButtons, APressBesideTheButtonIsNoneWhileItHoldsTheMouse) {
+  int clicks = 0;
+  button_.onClick = [&clicks] { ++clicks; };
+  const HWND focus = GetFocus();
+  send(WM_RBUTTONDOWN, MK_RBUTTON);
+  send(WM_LBUTTONDOWN, MK_LBUTTON | MK_RBUTTON, MAKELPARAM(-30, 5));
+  EXPECT_EQ(button_.state(), ChameleonButton::State::kNormal);
+  EXPECT_EQ(GetFocus(), focus);
+  send(WM_LBUTTONUP, MK_RBUTTON, MAKELPARAM(-30, 5));
+  send(WM_RBUTTONUP, 0, MAKELPARAM(-30, 5));
+  EXPECT_EQ(clicks, 0);
+  EXPECT_EQ(GetCapture(), nullptr);
 }
 
 TEST_F(WindowButtons, AHandPointsAtOneThatWantsIt) {
@@ -103,7 +116,6 @@ TEST_F(WindowButtons, WithItsRefreshDisabledAPressIsNotShownBeforeTheNextRefresh
     return pixels;
   };
   button_.onClick = nullptr;
-  send(WM_MOUSEMOVE);
   button_.DisableRefresh();
   const std::vector<COLORREF> before = picture();
   send(WM_LBUTTONDOWN, MK_LBUTTON);

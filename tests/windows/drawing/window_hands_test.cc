@@ -93,6 +93,19 @@ TEST_F(WindowHands, TheFocusGoesOnFromACommandThatIsDisabled) {
   EXPECT_EQ(GetFocus(), shown_.window("Form1", "cmd_view"));
 }
 
+TEST_F(WindowHands, TheFocusStaysInTheToolbarWhenItsToolIsDisabled) {
+  const auto tool = [this](int index) -> Control& {
+    return shown_.control("Form1", "Toolbar1(" + std::to_string(index) + ")");
+  };
+  tool(10).enabled = false;
+  shown_.pump();
+  SetFocus(shown_.window("Form1", "Toolbar1(6)"));
+  for (const int index : {1, 2, 4, 6, 8, 11, 12}) tool(index).enabled = false;
+  tool(10).enabled = true;
+  shown_.pump();
+  EXPECT_EQ(GetFocus(), shown_.window("Form1", "Toolbar1(10)"));
+}
+
 TEST_F(WindowHands, TheSpaceBarThatIsHeldWhileTheFocusGoesDoesNotPress) {
   int clicks = 0;
   ChameleonButton& button = main().chameleonButton11;
@@ -119,6 +132,9 @@ TEST_F(WindowHands, ADialogShowsWhereTheKeyboardIsThatOpenedIt) {
 
 TEST_F(WindowHands, ADialogThatTheMouseOpenedShowsNoFocus) {
   const HWND command = shown_.window("Form1", "cmd_option");
+  SetFocus(command);
+  press(command, VK_TAB);
+  ASSERT_TRUE(FormWindow::of(command)->showsFocus());
   send(command, WM_LBUTTONDOWN, MK_LBUTTON);
   send(command, WM_LBUTTONUP);
   ASSERT_NE(shown_.formWindow("Form3"), nullptr);

@@ -103,8 +103,9 @@ class TrayPages : public Tray {
  protected:
   void SetUp() override {
     Tray::SetUp();
-    moved_ = GetFileAttributesW(kStart) != INVALID_FILE_ATTRIBUTES;
-    ASSERT_TRUE(!moved_ || MoveFileW(kStart, kAway));
+    if (GetFileAttributesW(kStart) == INVALID_FILE_ATTRIBUTES) return;
+    moved_ = MoveFileW(kStart, kAway) != FALSE;
+    ASSERT_TRUE(moved_);
   }
   void TearDown() override {
     Tray::TearDown();
