@@ -112,7 +112,7 @@ void DrawnControl::mouseMoved(WPARAM keys, LPARAM point) {
   // With a button held down the moves beside it come here, too.
   if (inside != hovered_) invalidate();
   hovered_ = inside;
-  if (captures_ && (keys & MK_LBUTTON) != 0 && held_ != inside) {
+  if (left_down_ && (keys & MK_LBUTTON) != 0 && held_ != inside) {
     held_ = inside;
     invalidate();
   }
@@ -125,7 +125,7 @@ void DrawnControl::mouseDown(MouseButton button, LPARAM point) {
   if (button == MouseButton::kLeft) {
     form_.hideFocus();
     if (control_.design.tab >= 0) SetFocus(window_);
-    held_ = true;
+    held_ = left_down_ = true;
   }
   captures_ = false;
   SetCapture(window_);
@@ -137,7 +137,7 @@ void DrawnControl::mouseDown(MouseButton button, LPARAM point) {
 // The mouse is kept until the last button is up: the others come up here, too.
 void DrawnControl::mouseUp(MouseButton button, WPARAM keys) {
   const bool inside = held_;
-  if (button == MouseButton::kLeft) held_ = false;
+  if (button == MouseButton::kLeft) held_ = left_down_ = false;
   if ((keys & kAnyButton) == 0) {
     captures_ = false;
     ReleaseCapture();
@@ -147,7 +147,7 @@ void DrawnControl::mouseUp(MouseButton button, WPARAM keys) {
 }
 
 void DrawnControl::letGo() {
-  captures_ = held_ = false;
+  captures_ = held_ = left_down_ = false;
   invalidate();
   onCancel();
 }

@@ -61,7 +61,8 @@ class DrawnControl : public BoundControl, private AccessibleSource {
   void accessiblePress() override;
 
   AccessibleLink accessible_{*this};
-  bool captures_ = false;  ///< the mouse, for as long as a button is down
+  bool left_down_ = false;  ///< the left button went down on it
+  bool captures_ = false;   ///< the mouse, for as long as a button is down
   std::string drawn_;
   std::string caption_;  ///< the window's text
 };

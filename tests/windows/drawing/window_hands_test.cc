@@ -53,6 +53,21 @@ TEST_F(WindowHands, AKeyThatIsHeldPressesOnce) {
   EXPECT_EQ(clicks, 2);
 }
 
+TEST_F(WindowHands, APressBesideACommandIsNoneWhenItIsDraggedIn) {
+  int clicks = 0;
+  main().cmd_test.onClick = [&clicks] { ++clicks; };
+  const HWND button = shown_.window("Form1", "cmd_test");
+  send(button, WM_RBUTTONDOWN, MK_RBUTTON);
+  send(button, WM_LBUTTONDOWN, MK_LBUTTON | MK_RBUTTON, MAKELPARAM(-30, 5));
+  send(button, WM_MOUSEMOVE, MK_LBUTTON | MK_RBUTTON);
+  send(button, WM_LBUTTONUP, MK_RBUTTON);
+  send(button, WM_RBUTTONUP);
+  EXPECT_EQ(clicks, 0);
+  send(button, WM_LBUTTONDOWN, MK_LBUTTON);
+  send(button, WM_LBUTTONUP);
+  EXPECT_EQ(clicks, 1);
+}
+
 TEST_F(WindowHands, AnAccessKeyThatIsHeldPressesOnceAndWantsAlt) {
   constexpr LPARAM kAlt = LPARAM{KF_ALTDOWN} << 16;
   int clicks = 0;
