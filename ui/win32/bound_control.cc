@@ -1,7 +1,6 @@
 #include "ui/win32/bound_control.h"
 
-#include <commctrl.h>
-
+#include <unordered_map>
 #include <utility>
 
 #include "forms/chameleon_button.h"
@@ -23,14 +22,20 @@
 #include "ui/win32/caption.h"
 #include "ui/win32/control_places.h"
 #include "ui/win32/form_window.h"
+#include "ui/win32/subclass.h"
 
 namespace tavr::win32 {
 
 namespace {
 
-// Marks the windows that show a control, among all that exist.
-constexpr wchar_t kBoundProperty[] = L"TavrBound";
 constexpr UINT_PTR kEdgeSubclass = 2;
+
+// The windows that show a control, among all that exist. A window property would
+// be asked of another process under Wine, at every message of a control.
+std::unordered_map<HWND, BoundControl*>& boundWindows() {
+  static std::unordered_map<HWND, BoundControl*> all;
+  return all;
+}
 
 template <class Kind, class Bound>
 std::unique_ptr<BoundControl> tryKind(FormWindow& form, Control& control) {
@@ -73,9 +78,9 @@ BoundControl::~BoundControl() {
   form_.actions().discard(this);
   if (window_ == nullptr) return;
   annotation_.clear();
-  RemovePropW(window_, kBoundProperty);
+  boundWindows().erase(window_);
   RemovePropW(window_, nameProperty().c_str());
-  RemoveWindowSubclass(window_, &edgeProcedure, kEdgeSubclass);
+  removeSubclass(window_, &edgeProcedure, kEdgeSubclass);
   DestroyWindow(window_);
 }
 
@@ -85,7 +90,8 @@ std::wstring BoundControl::nameProperty() const {
 }
 
 BoundControl* BoundControl::of(HWND window) {
-  return static_cast<BoundControl*>(GetPropW(window, kBoundProperty));
+  const auto found = boundWindows().find(window);
+  return found == boundWindows().end() ? nullptr : found->second;
 }
 
 void BoundControl::create(const wchar_t* window_class, DWORD style, DWORD extended_style) {
@@ -93,16 +99,16 @@ void BoundControl::create(const wchar_t* window_class, DWORD style, DWORD extend
                             0, 0, 0, 0, form_.windowOfHolder(control_), nullptr,
                             GetModuleHandleW(nullptr), this);
   if (window_ == nullptr) return;
-  SetPropW(window_, kBoundProperty, this);
+  boundWindows().emplace(window_, this);
   SetPropW(window_, nameProperty().c_str(), window_);
   if ((style & WS_BORDER) == 0) return;
-  SetWindowSubclass(window_, &edgeProcedure, kEdgeSubclass, reinterpret_cast<DWORD_PTR>(this));
+  setSubclass(window_, &edgeProcedure, kEdgeSubclass, reinterpret_cast<DWORD_PTR>(this));
 }
 
 // The line around a native control, in the colours of the form.
 LRESULT CALLBACK BoundControl::edgeProcedure(HWND window, UINT message, WPARAM wparam,
                                              LPARAM lparam, UINT_PTR /*id*/, DWORD_PTR data) {
-  const LRESULT answer = DefSubclassProc(window, message, wparam, lparam);
+  const LRESULT answer = nextProcedure(window, message, wparam, lparam);
   if (message == WM_SETFOCUS || message == WM_KILLFOCUS) {
     RedrawWindow(window, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
   }

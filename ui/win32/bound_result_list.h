@@ -18,6 +18,8 @@ class BoundResultList : public ReportList {
   void syncOwn() override;
 
  private:
+  void syncRows();
+
   ResultList& list_;
   std::size_t ensured_ = 0;
   std::size_t clearings_ = 0;

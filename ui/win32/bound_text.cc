@@ -1,12 +1,11 @@
 #include "ui/win32/bound_text.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
 
 #include "forms/form3.h"
 #include "platform/win32/wide.h"
 #include "ui/win32/form_window.h"
+#include "ui/win32/subclass.h"
 
 namespace tavr::win32 {
 
@@ -52,10 +51,10 @@ std::string windowText(HWND window) {
 BoundText::BoundText(FormWindow& form, TextBox& box) : BoundControl(form, box), box_(box) {
   const DWORD direction = form.rightToLeft() ? WS_EX_RTLREADING | WS_EX_RIGHT : 0;
   create(WC_EDITW, styleOf(box), direction);
-  SetWindowSubclass(window_, &fieldProcedure, kFieldSubclass, reinterpret_cast<DWORD_PTR>(this));
+  setSubclass(window_, &fieldProcedure, kFieldSubclass, reinterpret_cast<DWORD_PTR>(this));
 }
 
-BoundText::~BoundText() { RemoveWindowSubclass(window_, &fieldProcedure, kFieldSubclass); }
+BoundText::~BoundText() { removeSubclass(window_, &fieldProcedure, kFieldSubclass); }
 
 int BoundText::lineHeight() const {
   const HDC dc = GetDC(window_);
@@ -114,7 +113,7 @@ LRESULT CALLBACK BoundText::fieldProcedure(HWND window, UINT message, WPARAM wpa
     auto& area = *reinterpret_cast<RECT*>(lparam);
     InflateRect(&area, -kEdge, -field.above_);
   }
-  const LRESULT answer = DefSubclassProc(window, message, wparam, lparam);
+  const LRESULT answer = nextProcedure(window, message, wparam, lparam);
   if (message == WM_SETFOCUS || message == WM_KILLFOCUS) {
     RedrawWindow(window, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
   }

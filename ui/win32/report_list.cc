@@ -4,6 +4,7 @@
 
 #include "platform/win32/wide.h"
 #include "ui/win32/form_window.h"
+#include "ui/win32/subclass.h"
 
 namespace tavr::win32 {
 
@@ -34,12 +35,11 @@ ReportList::ReportList(FormWindow& form, Control& control) : BoundControl(form, 
   // The buffer of a mirrored list comes to the screen mirrored, letters and all.
   const DWORD buffered = form.rightToLeft() ? 0 : LVS_EX_DOUBLEBUFFER;
   ListView_SetExtendedListViewStyle(window_, kExtendedStyle | buffered);
-  SetWindowSubclass(headerWindow(), &headerProcedure, kHeaderSubclass,
-                    reinterpret_cast<DWORD_PTR>(this));
+  setSubclass(headerWindow(), &headerProcedure, kHeaderSubclass, reinterpret_cast<DWORD_PTR>(this));
 }
 
 ReportList::~ReportList() {
-  RemoveWindowSubclass(headerWindow(), &headerProcedure, kHeaderSubclass);
+  removeSubclass(headerWindow(), &headerProcedure, kHeaderSubclass);
   ListView_SetImageList(window_, nullptr, LVSIL_SMALL);
   if (row_height_ != nullptr) ImageList_Destroy(row_height_);
 }
@@ -228,7 +228,7 @@ LRESULT CALLBACK ReportList::headerProcedure(HWND window, UINT message, WPARAM w
   const auto& list = *reinterpret_cast<const ReportList*>(data);
   switch (message) {
     case HDM_LAYOUT: {
-      const LRESULT answer = DefSubclassProc(window, message, wparam, lparam);
+      const LRESULT answer = nextProcedure(window, message, wparam, lparam);
       const auto& layout = *reinterpret_cast<HDLAYOUT*>(lparam);
       const int height = list.form_.px(kHeaderHeight);
       layout.prc->top += height - layout.pwpos->cy;
@@ -244,7 +244,7 @@ LRESULT CALLBACK ReportList::headerProcedure(HWND window, UINT message, WPARAM w
     case WM_ERASEBKGND:
       return 1;
     default:
-      return DefSubclassProc(window, message, wparam, lparam);
+      return nextProcedure(window, message, wparam, lparam);
   }
 }
 

@@ -1,8 +1,7 @@
 #include "ui/win32/shadow.h"
 
-#include <commctrl.h>
-
 #include "ui/win32/shadow_picture.h"
+#include "ui/win32/subclass.h"
 
 namespace tavr::win32 {
 
@@ -99,20 +98,19 @@ void follow(HWND form, HWND shadow, const WINDOWPOS& moved) {
 
 LRESULT CALLBACK formProcedure(HWND form, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
                                DWORD_PTR) {
-  if (message == WM_NCDESTROY) {
-    detachShadow(form);
-  } else if (const HWND shadow = shadowOf(form)) {
-    if (message == WM_WINDOWPOSCHANGED) {
+  if (message == WM_NCDESTROY) detachShadow(form);
+  if (message == WM_WINDOWPOSCHANGED) {
+    if (const HWND shadow = shadowOf(form)) {
       follow(form, shadow, *reinterpret_cast<const WINDOWPOS*>(lparam));
     }
-    // Windows hides what a minimised window owns, not all that calls it so do. A
-    // form that is not shown may be laid out, too.
-    if (message == WM_SIZE) {
-      const bool shown = wparam != SIZE_MINIMIZED && IsWindowVisible(form);
-      ShowWindow(shadow, shown ? SW_SHOWNA : SW_HIDE);
-    }
   }
-  return DefSubclassProc(form, message, wparam, lparam);
+  // Windows hides what a minimised window owns, not all that calls it so do. A
+  // form that is not shown may be laid out, too.
+  if (message == WM_SIZE) {
+    const bool shown = wparam != SIZE_MINIMIZED && IsWindowVisible(form);
+    if (const HWND shadow = shadowOf(form)) ShowWindow(shadow, shown ? SW_SHOWNA : SW_HIDE);
+  }
+  return nextProcedure(form, message, wparam, lparam);
 }
 
 }  // namespace
@@ -126,7 +124,7 @@ bool attachShadow(HWND form) {
   SetPropA(form, kProperty, shadow);
   keepLook(shadow, ShadowLook{});
   drawShadow(form, shadow);
-  SetWindowSubclass(form, &formProcedure, kSubclass, 0);
+  setSubclass(form, &formProcedure, kSubclass, 0);
   ShowWindow(shadow, SW_SHOW);
   return true;
 }
@@ -152,7 +150,7 @@ bool detachShadow(HWND form) {
   if (shadow == nullptr) return false;
   DestroyWindow(shadow);
   RemovePropA(form, kProperty);
-  RemoveWindowSubclass(form, &formProcedure, kSubclass);
+  removeSubclass(form, &formProcedure, kSubclass);
   return true;
 }
 

@@ -1,11 +1,42 @@
 #include "ui/win32/tool_tips.h"
 
-#include <commctrl.h>
-
 #include "platform/win32/wide.h"
 #include "ui/win32/bound_control.h"
+#include "ui/win32/subclass.h"
 
 namespace tavr::win32 {
+
+namespace {
+
+constexpr UINT_PTR kToolSubclass = 3;
+
+bool isOfMouse(UINT message) {
+  switch (message) {
+    case WM_MOUSEMOVE:
+    case WM_NCMOUSEMOVE:
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_MBUTTONDOWN:
+    case WM_MBUTTONUP:
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONUP:
+      return true;
+    default:
+      return false;
+  }
+}
+
+// What TTF_SUBCLASS does, but without its window property.
+LRESULT CALLBACK toolProcedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam,
+                               UINT_PTR /*id*/, DWORD_PTR tips) {
+  if (isOfMouse(message)) {
+    MSG told{window, message, wparam, lparam, static_cast<DWORD>(GetMessageTime()), {}};
+    SendMessageW(reinterpret_cast<HWND>(tips), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&told));
+  }
+  return nextProcedure(window, message, wparam, lparam);
+}
+
+}  // namespace
 
 ToolTips::ToolTips(HWND form, bool right_to_left)
     : form_(form),
@@ -20,11 +51,12 @@ ToolTips::~ToolTips() {
 void ToolTips::add(HWND window) {
   TTTOOLINFOW tool{};
   tool.cbSize = sizeof(tool);
-  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.uFlags = TTF_IDISHWND;
   tool.hwnd = form_;
   tool.uId = reinterpret_cast<UINT_PTR>(window);
   tool.lpszText = LPSTR_TEXTCALLBACKW;
   SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  setSubclass(window, &toolProcedure, kToolSubclass, reinterpret_cast<DWORD_PTR>(tips_));
 }
 
 void ToolTips::setFont(HFONT font) {

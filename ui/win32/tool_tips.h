@@ -15,6 +15,7 @@ class ToolTips {
   ToolTips(const ToolTips&) = delete;
   ToolTips& operator=(const ToolTips&) = delete;
 
+  /// The window of a control, which goes before the tips do.
   void add(HWND window);
   /// The caller keeps the font.
   void setFont(HFONT font);

@@ -1,11 +1,10 @@
 #include "ui/win32/trans_form.h"
 
-#include <commctrl.h>
-
 #include <cstdint>
 #include <vector>
 
 #include "ui/win32/color.h"
+#include "ui/win32/subclass.h"
 
 namespace tavr::win32 {
 
@@ -60,7 +59,7 @@ TransForm::TransForm(HWND form, Dialogs& dialogs) : form_(form), dialogs_(dialog
 }
 
 TransForm::~TransForm() {
-  RemoveWindowSubclass(form_, &formProcedure, reinterpret_cast<UINT_PTR>(this));
+  removeSubclass(form_, &formProcedure, reinterpret_cast<UINT_PTR>(this));
   keepCount(form_, countOn(form_) - 1);
 }
 
@@ -93,8 +92,8 @@ void TransForm::load() {
     return;
   }
   working_ = true;
-  SetWindowSubclass(form_, &formProcedure, reinterpret_cast<UINT_PTR>(this),
-                    reinterpret_cast<DWORD_PTR>(this));
+  setSubclass(form_, &formProcedure, reinterpret_cast<UINT_PTR>(this),
+              reinterpret_cast<DWORD_PTR>(this));
   Refresh();
 }
 
@@ -148,7 +147,7 @@ LRESULT CALLBACK TransForm::formProcedure(HWND form, UINT message, WPARAM wparam
     self.startDrag();
     return 0;
   }
-  const LRESULT answer = DefSubclassProc(form, message, wparam, lparam);
+  const LRESULT answer = nextProcedure(form, message, wparam, lparam);
   if (isEvent(message)) self.Refresh();
   return answer;
 }

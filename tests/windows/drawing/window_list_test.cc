@@ -126,6 +126,7 @@ TEST_F(WindowList, AMillionRowsStayFluent) {
     add("one more");
     results().ensureLastVisible();
     bound.sync();
+    UpdateWindow(window_);  // with what it leaves to be drawn
   });
   const double paint = worstOf([&](int i) {
     ListView_EnsureVisible(window_, i % 2 == 0 ? 0 : static_cast<int>(kRows) - 1, FALSE);
