@@ -1,5 +1,5 @@
-// While a dialog of the system is open, no window of the program takes a click or
-// a key. The system itself only disables the dialog's owner.
+// While a dialog of the system is open, no form of the program takes a click or a
+// key. The system itself only disables the dialog's owner.
 #pragma once
 
 #include <vector>
@@ -9,7 +9,7 @@ namespace tavr::win32 {
 class HeldWindows {
  public:
   /// Disables every window of this thread but `owner` (HWND), which the dialog
-  /// disables itself.
+  /// disables itself, and tool windows: the tray's menu is served meanwhile.
   explicit HeldWindows(void* owner);
   /// Enables those again that it has disabled.
   ~HeldWindows();

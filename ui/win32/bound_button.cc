@@ -99,16 +99,13 @@ void BoundButton::draw(HDC dc, const RECT& area, const DrawnState& state) {
   }
 }
 
-// One move at a time: its handler may read a file.
 void BoundButton::onMove(bool any_button_down) {
-  if (chameleon_) chameleon_->pointer_inside = hovered_;
-  if (move_waits_ || (!chameleon_ && !button_.onMouseMove)) return;
-  move_waits_ = true;
-  post([this, any_button_down] {
-    move_waits_ = false;
-    if (chameleon_) return chameleon_->mouseMove(any_button_down);
-    button_.onMouseMove();
-  });
+  if (!chameleon_) {
+    if (button_.onMouseMove) postMove(button_.onMouseMove);
+    return;
+  }
+  chameleon_->pointer_inside = hovered_;
+  postMove([this, any_button_down] { chameleon_->mouseMove(any_button_down); });
 }
 
 void BoundButton::onLeave() {
@@ -120,10 +117,7 @@ void BoundButton::onDown(MouseButton button) {
 }
 
 void BoundButton::onUp(MouseButton button, bool inside) {
-  if (!chameleon_) {
-    if (button == MouseButton::kLeft && inside) post([&plain = button_] { plain.press(); });
-    return;
-  }
+  if (!chameleon_) return DrawnControl::onUp(button, inside);
   post([&chameleon = *chameleon_, button, inside] { chameleon.mouseUp(button, inside); });
 }
 
@@ -133,7 +127,7 @@ void BoundButton::onCancel() {
 
 bool BoundButton::onKey(WPARAM key, bool down) {
   if (key == VK_RETURN) {
-    if (down) post([&button = button_] { button.press(); });
+    if (down) postPress();
     return true;
   }
   return chameleon_ ? onChameleonKey(key, down) : onPlainKey(key, down);
@@ -157,7 +151,7 @@ bool BoundButton::onPlainKey(WPARAM key, bool down) {
   const std::optional<ButtonKey> known = buttonKey(key);
   if (!known) return false;
   if (*known == ButtonKey::kSpace) {
-    if (held_ && !down) post([&plain = button_] { plain.press(); });
+    if (held_ && !down) postPress();
     held_ = down;
     invalidate();
   } else if (down) {
@@ -168,7 +162,7 @@ bool BoundButton::onPlainKey(WPARAM key, bool down) {
 
 void BoundButton::onAccessKey() {
   SetFocus(window_);
-  post([&button = button_] { button.press(); });
+  postPress();
 }
 
 }  // namespace tavr::win32

@@ -32,7 +32,6 @@ class BoundButton : public DrawnControl {
 
   Button& button_;
   ChameleonButton* chameleon_;  ///< the same, null for a plain button
-  bool move_waits_ = false;
 };
 
 }  // namespace tavr::win32

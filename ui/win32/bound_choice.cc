@@ -16,14 +16,6 @@ void BoundChoice::draw(HDC dc, const RECT& area, const DrawnState& state) {
   drawChoice(dc, area, shown);
 }
 
-void BoundChoice::postPress() {
-  post([&control = control_] { control.press(); });
-}
-
-void BoundChoice::onUp(MouseButton button, bool inside) {
-  if (button == MouseButton::kLeft && inside) postPress();
-}
-
 bool BoundChoice::onKey(WPARAM key, bool down) {
   const bool back = key == VK_UP || key == VK_LEFT;
   if (back || key == VK_DOWN || key == VK_RIGHT) {

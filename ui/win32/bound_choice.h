@@ -19,11 +19,7 @@ class BoundChoice : public DrawnControl {
 
   void draw(HDC dc, const RECT& area, const DrawnState& state) override;
   std::string drawnOf() const override;
-  void onUp(MouseButton button, bool inside) override;
   bool onKey(WPARAM key, bool down) override;
-
- private:
-  void postPress();
 };
 
 }  // namespace tavr::win32

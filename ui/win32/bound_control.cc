@@ -77,8 +77,9 @@ BoundControl::BoundControl(FormWindow& form, Control& control)
 BoundControl::~BoundControl() {
   form_.actions().discard(this);
   if (window_ == nullptr) return;
-  annotation_.clear();
+  // No message finds this from here on: what was derived of it is gone.
   boundWindows().erase(window_);
+  annotation_.clear();
   RemovePropW(window_, nameProperty().c_str());
   removeSubclass(window_, &edgeProcedure, kEdgeSubclass);
   DestroyWindow(window_);

@@ -45,22 +45,13 @@ void BoundLabel::draw(HDC dc, const RECT& area, const DrawnState& state) {
 }
 
 void BoundLabel::onMove(bool /*any_button_down*/) {
-  if (!label_.onMouseMove || move_waits_) return;
-  move_waits_ = true;
-  post([this] {
-    move_waits_ = false;
-    label_.onMouseMove();
-  });
-}
-
-void BoundLabel::onUp(MouseButton button, bool inside) {
-  if (button == MouseButton::kLeft && inside) post([&label = label_] { label.press(); });
+  if (label_.onMouseMove) postMove(label_.onMouseMove);
 }
 
 bool BoundLabel::onKey(WPARAM key, bool down) {
   if (!isLink()) return false;
   if (key == VK_RETURN || key == VK_SPACE) {
-    if (down) post([&label = label_] { label.press(); });
+    if (down) postPress();
     return true;
   }
   if (!down || (key != VK_UP && key != VK_DOWN)) return false;
@@ -70,7 +61,7 @@ bool BoundLabel::onKey(WPARAM key, bool down) {
 
 void BoundLabel::onAccessKey() {
   SetFocus(window_);
-  post([&label = label_] { label.press(); });
+  postPress();
 }
 
 }  // namespace tavr::win32

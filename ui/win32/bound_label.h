@@ -17,14 +17,12 @@ class BoundLabel : public DrawnControl {
   bool takesMouse() const override;
   bool showsHand() const override;
   void onMove(bool any_button_down) override;
-  void onUp(MouseButton button, bool inside) override;
   bool onKey(WPARAM key, bool down) override;
 
  private:
   bool isLink() const;
 
   Label& label_;
-  bool move_waits_ = false;
 };
 
 }  // namespace tavr::win32

@@ -45,22 +45,13 @@ void BoundPicture::draw(HDC dc, const RECT& area, const DrawnState& state) {
 }
 
 void BoundPicture::onMove(bool /*any_button_down*/) {
-  if (!picture_.onMouseMove || move_waits_) return;
-  move_waits_ = true;
-  post([this] {
-    move_waits_ = false;
-    picture_.onMouseMove();
-  });
+  if (picture_.onMouseMove) postMove(picture_.onMouseMove);
 }
 
 bool BoundPicture::onKey(WPARAM key, bool down) {
   if (!picture_.onClick || (key != VK_RETURN && key != VK_SPACE)) return false;
-  if (down) post([&picture = picture_] { picture.press(); });
+  if (down) postPress();
   return true;
-}
-
-void BoundPicture::onUp(MouseButton button, bool inside) {
-  if (button == MouseButton::kLeft && inside) post([&picture = picture_] { picture.press(); });
 }
 
 }  // namespace tavr::win32

@@ -18,7 +18,6 @@ class BoundPicture : public DrawnControl {
   bool takesMouse() const override { return picture_.onClick || picture_.onMouseMove; }
   bool showsHand() const override { return static_cast<bool>(picture_.onClick); }
   void onMove(bool any_button_down) override;
-  void onUp(MouseButton button, bool inside) override;
   bool onKey(WPARAM key, bool down) override;
   void syncOwn() override;
 
@@ -29,7 +28,6 @@ class BoundPicture : public DrawnControl {
   Picture& picture_;
   Animation animation_;
   std::string loaded_;
-  bool move_waits_ = false;
 };
 
 }  // namespace tavr::win32

@@ -15,14 +15,15 @@ void BoundResultList::describe(std::size_t row, std::size_t /*column*/, Cell& ce
 // Of more rows than are in sight each step, a row or a scroll bar that comes or
 // moves, would be drawn and covered by the next.
 void BoundResultList::syncOwn() {
-  const auto seen = static_cast<std::size_t>(ListView_GetItemCount(window_));
+  const bool anew = list_.clearings() != clearings_;
+  const auto seen = anew ? 0 : static_cast<std::size_t>(ListView_GetItemCount(window_));
   const auto page = static_cast<std::size_t>(ListView_GetCountPerPage(window_));
   if (list_.count() <= seen + page || !IsWindowVisible(window_)) return syncRows();
   // The window's own answer: the list's would put off its scrolling, too.
   DefWindowProcW(window_, WM_SETREDRAW, FALSE, 0);
   syncRows();
   DefWindowProcW(window_, WM_SETREDRAW, TRUE, 0);
-  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_ALLCHILDREN);
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
 void BoundResultList::syncRows() {

@@ -31,19 +31,27 @@ class DrawnControl : public BoundControl, private AccessibleSource {
   virtual void onMove(bool /*any_button_down*/) {}
   virtual void onLeave() {}
   virtual void onDown(MouseButton /*button*/) {}
-  virtual void onUp(MouseButton /*button*/, bool /*inside*/) {}
+  /// `inside`: the left button went down on it and the pointer is over it. A left
+  /// button then presses it.
+  virtual void onUp(MouseButton button, bool inside);
   /// A button or a key that is down on it will not come up there.
   virtual void onCancel() {}
   virtual bool onKey(WPARAM /*key*/, bool /*down*/) { return false; }
   /// The questions that a native control of its kind answers; 0 for any other.
   virtual LRESULT asked(UINT /*message*/) const { return 0; }
 
+  void postPress();
+  /// A move of the pointer, served once at a time: its handler may read a file.
+  void postMove(std::function<void()> action);
+
   void syncOwn() override;
   void fontChanged() override { invalidate(); }
   void syncAccessible() override { accessible_.tell(window_); }
 
   bool hovered_ = false;
-  bool held_ = false;  ///< a button went down on it and the pointer is over it
+  /// It looks pressed: the left button went down on it and the pointer is over it,
+  /// or the space bar is down.
+  bool held_ = false;
 
  private:
   friend LRESULT CALLBACK drawnControlProcedure(HWND, UINT, WPARAM, LPARAM);
@@ -53,7 +61,7 @@ class DrawnControl : public BoundControl, private AccessibleSource {
   void mouseMoved(WPARAM keys, LPARAM point);
   bool contains(LPARAM point) const;
   void mouseDown(MouseButton button, LPARAM point);
-  void mouseUp(MouseButton button, WPARAM keys);
+  void mouseUp(MouseButton button, WPARAM keys, LPARAM point);
   void letGo();
   DrawnState state() const;
   AccessibleFacts accessibleFacts() const override;
@@ -63,6 +71,7 @@ class DrawnControl : public BoundControl, private AccessibleSource {
   AccessibleLink accessible_{*this};
   bool left_down_ = false;  ///< the left button went down on it
   bool captures_ = false;   ///< the mouse, for as long as a button is down
+  bool move_waits_ = false;
   std::string drawn_;
   std::string caption_;  ///< the window's text
 };

@@ -87,6 +87,12 @@ void FormWindow::showFocus() {
   if (const HWND focus = GetFocus()) InvalidateRect(focus, nullptr, FALSE);
 }
 
+void FormWindow::hideFocus() {
+  if (!shows_focus_) return;
+  shows_focus_ = false;
+  if (const HWND focus = GetFocus()) InvalidateRect(focus, nullptr, FALSE);
+}
+
 std::string FormWindow::captionOf(const Control& control) const {
   const auto cue = std::ranges::find(cues_, &control, &AccessKey::shown);
   return std::string(Trim(cue == cues_.end() ? control.caption : captionWithKey(*cue)));

@@ -76,6 +76,11 @@ LRESULT FormWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         focusFirst();
       }
       return 0;
+    case WM_ENABLE:
+      // The system lets go of what the form itself holds; a press of a control
+      // would end as a click below the dialog that disables the form.
+      if (wparam == FALSE && IsChild(window_, GetCapture())) ReleaseCapture();
+      break;
     case WM_CLOSE:
       if (events_.close) actions_.post(this, events_.close);
       return 0;

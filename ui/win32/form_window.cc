@@ -64,9 +64,11 @@ FormWindow::FormWindow(Form& form, HWND owner, ActionQueue& actions, Dialogs& di
   placed_top_ = form.top;
   layOut();
   shape_->load();
+  form_.onTopmost = [this](bool on) { setTopmost(on); };
 }
 
 FormWindow::~FormWindow() {
+  form_.onTopmost = nullptr;
   actions_.discard(this);
   annotation_.clear();
   if (shadow_) detachShadow(window_);
@@ -131,12 +133,15 @@ void FormWindow::syncFrame(bool may_show) {
   if (!HeldWindows::any() && form_.enabled != (IsWindowEnabled(window_) != FALSE)) {
     EnableWindow(window_, form_.enabled ? TRUE : FALSE);
   }
-  if (form_.topmost != topmost_) {
-    topmost_ = form_.topmost;
-    SetWindowPos(window_, topmost_ ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-  }
+  setTopmost(form_.topmost);
   syncShown(form_.visible && may_show);
+}
+
+void FormWindow::setTopmost(bool on) {
+  if (on == topmost_) return;
+  topmost_ = on;
+  SetWindowPos(window_, on ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 void FormWindow::syncShown(bool show) {

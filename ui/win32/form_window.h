@@ -73,7 +73,7 @@ class FormWindow {
   // The keyboard's cues.
   bool showsFocus() const { return shows_focus_; }
   void showFocus();
-  void hideFocus() { shows_focus_ = false; }
+  void hideFocus();
   void moveFocus(bool back, bool in_group = false);
   /// The caption as it is drawn at the moment. Blanks around it once held it off
   /// its box, which the drawings do by themselves.
@@ -104,6 +104,7 @@ class FormWindow {
   void shapeCorners(SIZE size);
   void takePosition();
   void syncFrame(bool may_show);
+  void setTopmost(bool on);
   void syncShown(bool show);
   void syncControls();
   BoundControl* boundOf(const Control& control) const;

@@ -15,14 +15,13 @@ struct Entry {
 };
 
 struct Chain {
-  WNDPROC own = nullptr;  ///< the window's own procedure
-  std::vector<Entry> entries;
-  std::size_t behind = 0;  ///< how many stand behind the one that runs
-  int serving = 0;         ///< messages within messages
-  bool gone = false;       ///< the window has had its last message
+  WNDPROC own = nullptr;       ///< the window's own procedure
+  std::vector<Entry> entries;  ///< each keeps its place while messages are served
+  std::size_t behind = 0;      ///< how many stand behind the one that runs
+  int serving = 0;             ///< messages within messages
+  bool gone = false;           ///< the window has had its last message
 };
 
-// An entry stays where it is while its window serves a message.
 std::unordered_map<HWND, Chain>& chains() {
   static std::unordered_map<HWND, Chain> all;
   return all;

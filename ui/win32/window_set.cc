@@ -149,7 +149,6 @@ void WindowSet::syncForm(std::string_view name) {
   Form* const form = program_.desk.loaded(name);
   std::unique_ptr<FormWindow>& window = windows_[name];
   if (window && &window->form() != form) {
-    window->form().onTopmost = nullptr;
     activateBelow(window->window());
     window.reset();
   }
@@ -159,10 +158,6 @@ void WindowSet::syncForm(std::string_view name) {
     const FormWindow* const from = FormWindow::of(GetActiveWindow());
     window = std::make_unique<FormWindow>(*form, mainWindow(), actions_, program_.machine.dialogs,
                                           eventsOf(name));
-    form->onTopmost = [handle = window->window()](bool on) {
-      SetWindowPos(handle, on ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
-                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    };
     // Opened by the keyboard, it shows where the keyboard is.
     if (from && from->showsFocus()) window->showFocus();
   }

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/windows/accessible/shown_program.h"
@@ -51,6 +52,55 @@ TEST_F(WindowHands, AKeyThatIsHeldPressesOnce) {
   EXPECT_EQ(clicks, 1);
   press(button, VK_RETURN);
   EXPECT_EQ(clicks, 2);
+}
+
+// The dialog that disables it was opened by the keyboard, or by a timer.
+TEST_F(WindowHands, APressIsNoneWhenItsFormIsDisabledMeanwhile) {
+  int clicks = 0;
+  main().cmd_test.onClick = main().cmd_clear.onClick = [&clicks] { ++clicks; };
+  for (const char* const name : {"cmd_test", "cmd_clear"}) {
+    const HWND button = shown_.window("Form1", name);
+    send(button, WM_LBUTTONDOWN, MK_LBUTTON);
+    ASSERT_EQ(GetCapture(), button);
+    EnableWindow(shown_.formWindow("Form1"), FALSE);
+    EXPECT_EQ(GetCapture(), nullptr);
+    send(button, WM_LBUTTONUP);
+    EnableWindow(shown_.formWindow("Form1"), TRUE);
+    EXPECT_EQ(clicks, 0) << name;
+    send(button, WM_LBUTTONDOWN, MK_LBUTTON);
+    send(button, WM_LBUTTONUP);
+    EXPECT_EQ(std::exchange(clicks, 0), 1) << name << ": the next one is a click again";
+  }
+}
+
+TEST_F(WindowHands, TheSpaceBarMakesNoClickOfAPressThatWasDraggedOut) {
+  shown_.open("Form2");
+  const HWND box = shown_.window("Form2", "Check1(52)");
+  Control& shown = shown_.control("Form2", "Check1(52)");
+  const std::string before = shown.shown();
+  constexpr LPARAM kBeside = MAKELPARAM(-20, 5);
+  send(box, WM_LBUTTONDOWN, MK_LBUTTON);
+  send(box, WM_MOUSEMOVE, MK_LBUTTON, kBeside);
+  SendMessageW(box, WM_KEYDOWN, VK_SPACE, 0);
+  send(box, WM_LBUTTONUP, 0, kBeside);
+  EXPECT_EQ(shown.shown(), before);
+}
+
+TEST_F(WindowHands, AMousePressTakesTheRingOffTheControlThatKeepsTheFocus) {
+  const HWND button = shown_.window("Form1", "cmd_clear");
+  FormWindow& form = *FormWindow::of(button);
+  SetFocus(button);
+  form.showFocus();
+  shown_.pump();
+  ASSERT_TRUE(form.showsFocus());
+  UpdateWindow(button);
+  ASSERT_FALSE(GetUpdateRect(button, nullptr, FALSE));
+  // A separator of the toolbar: it takes no focus and opens nothing.
+  SendMessageW(shown_.window("Form1", "Toolbar1(2)"), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(1, 1));
+  EXPECT_EQ(GetFocus(), button);
+  EXPECT_TRUE(GetUpdateRect(button, nullptr, FALSE)) << "it is drawn anew";
+  EXPECT_FALSE(form.showsFocus());
+  ReleaseCapture();
 }
 
 TEST_F(WindowHands, APressBesideACommandIsNoneWhenItIsDraggedIn) {

@@ -107,6 +107,33 @@ TEST_F(WindowList, AnotherRunWithAsManyRowsIsShown) {
   EXPECT_NE(picture(), before);
 }
 
+// The strip below the last whole row belongs to none.
+TEST_F(WindowList, ManyRowsAtOnceLeaveNothingOfTheRowsBefore) {
+  const auto show = [this](int rows) {
+    for (int i = 0; i < rows; ++i) add("WWWWWWWWWWWWWWWWWWWW");
+    results().ensureLastVisible();
+    shown_.pump();
+    UpdateWindow(window_);
+  };
+  show(500);
+  ListView_EnsureVisible(window_, 0, FALSE);
+  UpdateWindow(window_);
+  show(50);
+  ASSERT_EQ(lastInSight(), 549);
+  RECT area;
+  RECT last;
+  GetClientRect(window_, &area);
+  ListView_GetItemRect(window_, 549, &last, LVIR_BOUNDS);
+  ASSERT_LT(last.bottom, area.bottom);
+  const HDC dc = GetDC(window_);
+  for (int y = last.bottom; y < area.bottom; ++y) {
+    for (int x = 1; x < area.right; x += 3) {
+      ASSERT_EQ(GetPixel(dc, x, y), FormWindow::of(window_)->palette().panel) << x << "," << y;
+    }
+  }
+  ReleaseDC(window_, dc);
+}
+
 TEST_F(WindowList, AMillionRowsStayFluent) {
   constexpr std::size_t kRows = 1'000'000;
   constexpr double kFluent = 50;  // ms
