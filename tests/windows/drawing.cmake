@@ -10,7 +10,7 @@ target_link_libraries(contact_sheet PRIVATE tavr_ui_win32)
 
 file(GLOB sources CONFIGURE_DEPENDS ${folder}/*_test.cc)
 add_executable(test_drawing ${sources} ${folder}/picture.cc ${folder}/sample_picture.cc
-               ${folder}/measured_form.cc ${folder}/test_window.cc
+               ${folder}/measured_form.cc ${folder}/system_colors.cc ${folder}/test_window.cc
                ${folder}/../accessible/shown_program.cc ${folder}/../display.cc
                ${folder}/drawing_test.rc)
 target_link_libraries(test_drawing PRIVATE tavr_ui_win32 gmock_main)

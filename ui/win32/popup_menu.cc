@@ -26,7 +26,7 @@ HMENU makeMenu(const Form1& form) {
 
 }  // namespace
 
-void openPopupMenu(Form1& form, HWND owner, bool right_to_left) {
+Button* openPopupMenu(Form1& form, HWND owner, bool right_to_left) {
   const HMENU menu = makeMenu(form);
   POINT at{};
   GetCursorPos(&at);
@@ -38,7 +38,7 @@ void openPopupMenu(Form1& form, HWND owner, bool right_to_left) {
   PostMessageW(owner, WM_NULL, 0, 0);
   DestroyMenu(menu);
   form.bccc.visible = false;
-  if (chosen > 0) form.menu[static_cast<std::size_t>(chosen) - 1].press();
+  return chosen > 0 ? &form.menu[static_cast<std::size_t>(chosen) - 1] : nullptr;
 }
 
 }  // namespace tavr::win32

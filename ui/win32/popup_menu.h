@@ -7,8 +7,9 @@
 
 namespace tavr::win32 {
 
-/// Opens the menu where the pointer is and presses the entry that a person
-/// chooses. Returns when it has closed. `owner` must be a window of this thread.
-void openPopupMenu(Form1& form, HWND owner, bool right_to_left);
+/// Opens the menu where the pointer is and returns when it has closed: with the
+/// entry that a person chose, which is not pressed yet, or null. `owner` must be a
+/// window of this thread.
+Button* openPopupMenu(Form1& form, HWND owner, bool right_to_left);
 
 }  // namespace tavr::win32

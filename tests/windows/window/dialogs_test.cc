@@ -87,6 +87,9 @@ TEST_F(WindowTest, AToolTellsItsNameUnderTheMouse) {
   RECT at;
   GetWindowRect(tip(), &at);
   EXPECT_GT(at.right - at.left, 20);
+  wchar_t text[64] = L"";
+  SendMessageW(tip(), WM_GETTEXT, 64, reinterpret_cast<LPARAM>(text));
+  EXPECT_STREQ(text, L"Erase");
   program().hover("Form1.View200");
   EXPECT_TRUE(comes([&] { return tip() == nullptr; }));
 }

@@ -74,6 +74,7 @@ void movePointer(POINT screen);
 void pressMouse(bool right = false);
 void clickAt(HWND window, POINT client, bool right = false);
 void doubleClickAt(HWND window, POINT client);
+void dragMouse(POINT from, POINT to);  ///< on the screen, by the left button
 void pressKey(int key, int with = 0);  ///< virtual keys; `with` is held meanwhile
 void typeText(std::string_view text);
 /// The middle of a window's own area.

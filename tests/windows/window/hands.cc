@@ -79,6 +79,18 @@ void doubleClickAt(HWND window, POINT client) {
   pressMouse();
 }
 
+void dragMouse(POINT from, POINT to) {
+  constexpr int kSteps = 5;
+  movePointer(from);
+  sendMouse(MOUSEEVENTF_LEFTDOWN);
+  Sleep(kMoment);
+  for (int i = 1; i <= kSteps; ++i) {
+    movePointer({from.x + (to.x - from.x) * i / kSteps, from.y + (to.y - from.y) * i / kSteps});
+  }
+  sendMouse(MOUSEEVENTF_LEFTUP);
+  Sleep(kMoment);
+}
+
 void pressKey(int key, int with) {
   if (with != 0) sendKey(with, true);
   sendKey(key, true);

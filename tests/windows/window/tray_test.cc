@@ -27,6 +27,17 @@ class Tray : public WindowTest {
     program().click("Form1.chameleonButton10");
     EXPECT_TRUE(program().goes("Form1"));
   }
+  bool isAway() {
+    start();
+    minimise();
+    return bar.showsIcon();
+  }
+  void comesBackBy(UINT message) {
+    ASSERT_TRUE(isAway());
+    bar.mouse(message);
+    EXPECT_TRUE(program().comesUp("Form1"));
+    EXPECT_TRUE(bar.losesIcon());
+  }
   // Separators are passed over by the keys.
   void choose(int entry) {
     bar.mouse(WM_RBUTTONDOWN);
@@ -56,43 +67,24 @@ TEST_F(Tray, MinimisingPutsTheIconThereInPlaceOfTheWindow) {
   EXPECT_TRUE(bar.showsIcon());
 }
 
-TEST_F(Tray, ALeftPressOnTheIconBringsTheWindowBack) {
-  start();
-  minimise();
-  ASSERT_TRUE(bar.showsIcon());
-  bar.mouse(WM_LBUTTONDOWN);
-  EXPECT_TRUE(program().comesUp("Form1"));
-  EXPECT_TRUE(bar.losesIcon());
-}
+TEST_F(Tray, ALeftPressOnTheIconBringsTheWindowBack) { comesBackBy(WM_LBUTTONDOWN); }
 
-TEST_F(Tray, ADoubleClickOnTheIconBringsTheWindowBack) {
-  start();
-  minimise();
-  ASSERT_TRUE(bar.showsIcon());
-  bar.mouse(WM_LBUTTONDBLCLK);
-  EXPECT_TRUE(program().comesUp("Form1"));
-}
+TEST_F(Tray, ADoubleClickOnTheIconBringsTheWindowBack) { comesBackBy(WM_LBUTTONDBLCLK); }
 
 TEST_F(Tray, TheIconComesAgainWhenTheTaskBarStartsAnew) {
-  start();
-  minimise();
-  ASSERT_TRUE(bar.showsIcon());
+  ASSERT_TRUE(isAway());
   bar.startAnew();
   EXPECT_TRUE(bar.showsIcon());
 }
 
 TEST_F(Tray, TheMenuOpensTheSettings) {
-  start();
-  minimise();
-  ASSERT_TRUE(bar.showsIcon());
+  ASSERT_TRUE(isAway());
   choose(kSettingsEntry);
   EXPECT_TRUE(program().comesUp("Form2"));
 }
 
 TEST_F(Tray, TheMenuOpensTheOptions) {
-  start();
-  minimise();
-  ASSERT_TRUE(bar.showsIcon());
+  ASSERT_TRUE(isAway());
   choose(kOptionsEntry);
   EXPECT_TRUE(program().comesUp("Form3"));
 }
@@ -119,9 +111,7 @@ class TrayPages : public Tray {
 };
 
 TEST_F(TrayPages, TheMenuTellsTheAddressOfTheSite) {
-  start();
-  minimise();
-  ASSERT_TRUE(bar.showsIcon());
+  ASSERT_TRUE(isAway());
   choose(kSiteEntry);
   ASSERT_TRUE(program().comesUp("frmmsg"));
   EXPECT_EQ(program().text("frmmsg"), "Tavr Wipe Pro");
@@ -132,9 +122,7 @@ TEST_F(TrayPages, TheMenuTellsTheAddressOfTheSite) {
 }
 
 TEST_F(TrayPages, TheMenuTellsTheAddressOfThePlugIns) {
-  start();
-  minimise();
-  ASSERT_TRUE(bar.showsIcon());
+  ASSERT_TRUE(isAway());
   choose(kPlugInsEntry);
   ASSERT_TRUE(program().comesUp("frmmsg"));
   EXPECT_EQ(program().text("frmmsg.Text1"),
@@ -144,9 +132,7 @@ TEST_F(TrayPages, TheMenuTellsTheAddressOfThePlugIns) {
 }
 
 TEST_F(Tray, TheMenusHelpDoesNothing) {
-  start();
-  minimise();
-  ASSERT_TRUE(bar.showsIcon());
+  ASSERT_TRUE(isAway());
   choose(kHelpEntry);
   EXPECT_TRUE(comes([this] { return program().windowOfClass(kMenuClass) == nullptr; }));
   Sleep(500);
@@ -159,9 +145,7 @@ TEST_F(Tray, TheMenusHelpDoesNothing) {
 }
 
 TEST_F(Tray, ADialogOfTheMenuClosesAndLeavesTheIcon) {
-  start();
-  minimise();
-  ASSERT_TRUE(bar.showsIcon());
+  ASSERT_TRUE(isAway());
   choose(kSettingsEntry);
   ASSERT_TRUE(program().comesUp("Form2"));
   program().click("Form2.chameleonButton4");
@@ -171,9 +155,7 @@ TEST_F(Tray, ADialogOfTheMenuClosesAndLeavesTheIcon) {
 }
 
 TEST_F(Tray, AMoveAndTheEndOfAPressAreNoCommands) {
-  start();
-  minimise();
-  ASSERT_TRUE(bar.showsIcon());
+  ASSERT_TRUE(isAway());
   for (const UINT message : {WM_MOUSEMOVE, WM_LBUTTONUP, WM_RBUTTONUP}) bar.mouse(message);
   Sleep(500);
   EXPECT_FALSE(program().sees("Form1"));
@@ -181,27 +163,16 @@ TEST_F(Tray, AMoveAndTheEndOfAPressAreNoCommands) {
   EXPECT_TRUE(bar.icon());
 }
 
-TEST_F(Tray, ADoubleClickOfTheRightButtonBringsTheWindowBackToo) {
-  start();
-  minimise();
-  ASSERT_TRUE(bar.showsIcon());
-  bar.mouse(WM_RBUTTONDBLCLK);
-  EXPECT_TRUE(program().comesUp("Form1"));
-  EXPECT_TRUE(bar.losesIcon());
-}
+TEST_F(Tray, ADoubleClickOfTheRightButtonBringsTheWindowBackToo) { comesBackBy(WM_RBUTTONDBLCLK); }
 
 TEST_F(Tray, APictureBesideTheProgramTakesThePlaceOfItsOwn) {
-  start();
-  minimise();
-  ASSERT_TRUE(bar.showsIcon());
+  ASSERT_TRUE(isAway());
   const std::string own = bar.icon()->picture;
   EXPECT_NE(own, "");
   end();
   bar.forget();
   write("tray.ico", redPicture());
-  start();
-  minimise();
-  ASSERT_TRUE(bar.showsIcon());
+  ASSERT_TRUE(isAway());
   const std::string other = bar.icon()->picture;
   DeleteFileW(place("tray.ico").c_str());
   EXPECT_NE(other, "");
@@ -209,18 +180,14 @@ TEST_F(Tray, APictureBesideTheProgramTakesThePlaceOfItsOwn) {
 }
 
 TEST_F(Tray, TheMenuErases) {
-  start();
-  minimise();
-  ASSERT_TRUE(bar.showsIcon());
+  ASSERT_TRUE(isAway());
   choose(kEraseEntry);
   EXPECT_TRUE(comes([] { return exists("eraselog.txt"); }));
   EXPECT_TRUE(comes([this] { return list("Form1.View100").text(9, 1) == "Finished"; }));
 }
 
 TEST_F(Tray, TheMenuIsLeftWithoutAChoice) {
-  start();
-  minimise();
-  ASSERT_TRUE(bar.showsIcon());
+  ASSERT_TRUE(isAway());
   bar.mouse(WM_RBUTTONDOWN);
   EXPECT_TRUE(comes([this] { return program().windowOfClass(kMenuClass) != nullptr; }));
   pressKey(VK_ESCAPE);
@@ -230,9 +197,7 @@ TEST_F(Tray, TheMenuIsLeftWithoutAChoice) {
 }
 
 TEST_F(Tray, TheMenuEndsTheProgramAndTheIconGoesWithIt) {
-  start();
-  minimise();
-  ASSERT_TRUE(bar.showsIcon());
+  ASSERT_TRUE(isAway());
   choose(kExitEntry);
   EXPECT_EQ(program().waitForEnd(), 0U);
   EXPECT_TRUE(bar.losesIcon());
