@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "platform/win32/wide.h"
@@ -38,7 +40,18 @@ Status refusal(HKEY root, const std::wstring& path, std::uint32_t access) {
   return kSuccess;
 }
 
-REGSAM withView(std::uint32_t access) {
+// A person's keys are the same in both views, but for the classes: those and what
+// leads to them. Wine looks for a second view of them all the same, with a question to
+// its server for each part of the path, and every setting that is read would wait.
+bool hasViews(HKEY root, std::wstring_view path) {
+  if (root != HKEY_CURRENT_USER) return true;
+  constexpr std::wstring_view kClasses = L"Software\\Classes";
+  const auto length = static_cast<int>(std::min(path.size(), kClasses.size()));
+  return CompareStringOrdinal(path.data(), length, kClasses.data(), length, TRUE) == CSTR_EQUAL;
+}
+
+REGSAM withView(HKEY root, std::wstring_view path, std::uint32_t access) {
+  if (!hasViews(root, path)) return access & ~kBothViews;
   return (access & kBothViews) == 0 ? access | KEY_WOW64_32KEY : access;
 }
 
@@ -60,7 +73,7 @@ OpenedKey Win32Registry::open(Root root, std::string_view path, std::uint32_t ac
   const HKEY base = handleOf(root);
   const std::wstring name = wide(path);
   if (const Status refused = refusal(base, name, access)) return {refused, nullptr};
-  const REGSAM mask = withView(access);
+  const REGSAM mask = withView(base, name, access);
   HKEY key = nullptr;
   const LSTATUS status = RegOpenKeyExW(base, name.c_str(), 0, mask, &key);
   return opened(status, key, mask);
@@ -71,7 +84,7 @@ OpenedKey Win32Registry::create(Root root, std::string_view path, std::string_vi
   const HKEY base = handleOf(root);
   const std::wstring name = wide(path);
   if (const Status refused = refusal(base, name, access)) return {refused, nullptr};
-  const REGSAM mask = withView(access);
+  const REGSAM mask = withView(base, name, access);
   std::wstring class_text = wide(key_class);
   SECURITY_ATTRIBUTES attributes = {kAttributesLength, nullptr, TRUE};
   HKEY key = nullptr;

@@ -48,5 +48,44 @@ TEST(Win32RegistryTest, NamesWithHalfAPairOfSurrogatesAreFoundAndDeleted) {
   EXPECT_EQ(key.key->enumKey(0, subkey), kNoMoreItems);
 }
 
+// A key of that name below a person's keys, gone with the test where there was none:
+// Wine itself takes it for a second view.
+class PersonsViews {
+ public:
+  PersonsViews() {
+    RegCreateKeyExW(HKEY_CURRENT_USER, kPath, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key_,
+                    &made_);
+  }
+  ~PersonsViews() {
+    RegCloseKey(key_);
+    if (made_ == REG_CREATED_NEW_KEY) RegDeleteKeyExW(HKEY_CURRENT_USER, kPath, KEY_WOW64_64KEY, 0);
+  }
+  PersonsViews(const PersonsViews&) = delete;
+  PersonsViews& operator=(const PersonsViews&) = delete;
+
+ private:
+  static constexpr wchar_t kPath[] = L"Software\\Wow6432Node";
+  HKEY key_ = nullptr;
+  DWORD made_ = 0;
+};
+
+TEST(Win32RegistryTest, APersonsKeysAreNotLookedForBelowWow6432Node) {
+  const contract::ScratchKey scratch("Tavr Win32 Views");
+  const PersonsViews views;
+  Win32Registry registry;
+  for (const std::uint32_t view : {0U, 0x100U, 0x200U}) {
+    const OpenedKey made = registry.create(Root::kCurrentUser, scratch.path(), "", kAccess | view);
+    ASSERT_EQ(made.status, kSuccess) << view;
+    HKEY native = nullptr;
+    EXPECT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, wide(scratch.path()).c_str(), 0,
+                            KEY_ALL_ACCESS | KEY_WOW64_64KEY, &native),
+              ERROR_SUCCESS)
+        << view;
+    RegCloseKey(native);
+    EXPECT_EQ(registry.open(Root::kCurrentUser, scratch.path(), kAccess | view).status, kSuccess);
+    EXPECT_EQ(made.key->deleteKey(""), kSuccess);
+  }
+}
+
 }  // namespace
 }  // namespace tavr::win32
