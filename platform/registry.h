@@ -2,15 +2,15 @@
 //
 // Names compare without case; a trailing "\" in a path addresses the same key, a
 // leading one fails with 161 under every root but HKEY_CLASSES_ROOT.
-// Text crosses the seam as UTF-8, sizes of text count UTF-16 units. Where the
-// access mask names no view (neither 0x100 nor 0x200) the platform adds the
-// 32-bit view (0x200), in every build of the program: only HKEY_LOCAL_MACHINE
-// \SOFTWARE has two views, and the program's own settings live in the 32-bit
-// one. A mask with both views gives 87, and so does a key name of more than 255
-// units. A handle's rights are checked as Windows checks them (0x1 for reading
-// and enumerating values, 0x2 for setting and deleting them, 0x8 for enumerating
-// subkeys); a missing right gives 5. Making and deleting keys asks for no right
-// of the handle.
+// Text crosses the seam as UTF-8, sizes of text count UTF-16 units. Where the access
+// mask names no view (neither 0x100 nor 0x200) the platform adds the 32-bit view
+// (0x200), in every build of the program: HKEY_LOCAL_MACHINE\SOFTWARE and the
+// classes have two views, and the program's own settings live in the 32-bit one;
+// elsewhere below HKEY_CURRENT_USER a view changes nothing. A mask with both views
+// gives 87, and so does a key name of more than 255 units. A handle's rights are
+// checked as Windows checks them (0x1 for reading and enumerating values, 0x2 for
+// setting and deleting them, 0x8 for enumerating subkeys); a missing right gives 5.
+// Making and deleting keys asks for no right of the handle.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
-// While a dialog of the system is open, no form of the program takes a click or a
-// key. The system itself only disables the dialog's owner.
+// While a dialog of the system is open, no form that was there before takes a click
+// or a key. The system itself only disables the dialog's owner.
 #pragma once
 
 #include <vector>

@@ -30,6 +30,14 @@ BOOL CALLBACK closeBox(HWND window, LPARAM /*unused*/) {
   return box ? FALSE : TRUE;
 }
 
+// The icon's menu has the mouse and the keys, and would cover a box that a timer opens.
+bool menuIsOpen() {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof(info);
+  return GetGUIThreadInfo(GetCurrentThreadId(), &info) &&
+         (info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE)) != 0;
+}
+
 }  // namespace
 
 struct Win32Events::WaitableTimer {
@@ -121,7 +129,7 @@ void Win32Events::ModalLoop::onTimer(std::uintptr_t timer) {
 }
 
 void Win32Events::ModalLoop::serve() {
-  if (thrown_) return;
+  if (thrown_ || menuIsOpen()) return;
   try {
     const std::uint64_t now = tickCount();
     if (now >= events_.timers_.nextDue()) events_.timers_.fire(now);

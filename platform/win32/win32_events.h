@@ -40,7 +40,7 @@ class Win32Events : public Events {
 
   /// For as long as it lives the timers are served from a message loop of the
   /// system's own, such as that of a message box, and so is what stands behind the
-  /// messages.
+  /// messages. While a menu is open they wait, as they do without a box.
   class ModalLoop {
    public:
     explicit ModalLoop(Win32Events& events);

@@ -1,7 +1,12 @@
 #include "tests/windows/drawing/system_colors.h"
 
-// The place in the import table by which this program calls the system.
-extern "C" void* __imp_SystemParametersInfoW;
+// The place in the import table by which this program calls the system; on i686 its
+// name has the bytes of the arguments.
+#ifdef __i386__
+extern "C" void* import_place __asm__("__imp__SystemParametersInfoW@16");
+#else
+extern "C" void* import_place __asm__("__imp_SystemParametersInfoW");
+#endif
 
 namespace tavr::win32::testing {
 
@@ -20,16 +25,16 @@ BOOL WINAPI answer(UINT what, UINT number, void* data, UINT how) {
 
 void setImport(Question question) {
   DWORD before = 0;
-  VirtualProtect(&__imp_SystemParametersInfoW, sizeof(void*), PAGE_READWRITE, &before);
-  __imp_SystemParametersInfoW = reinterpret_cast<void*>(question);
-  VirtualProtect(&__imp_SystemParametersInfoW, sizeof(void*), before, &before);
+  VirtualProtect(&import_place, sizeof(void*), PAGE_READWRITE, &before);
+  import_place = reinterpret_cast<void*>(question);
+  VirtualProtect(&import_place, sizeof(void*), before, &before);
 }
 
 }  // namespace
 
 SystemColors::SystemColors() {
   for (std::size_t i = 0; i < before_.size(); ++i) before_[i] = GetSysColor(kContrastPlaces[i]);
-  system_answer = reinterpret_cast<Question>(__imp_SystemParametersInfoW);
+  system_answer = reinterpret_cast<Question>(import_place);
   setImport(&answer);
 }
 

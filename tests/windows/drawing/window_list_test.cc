@@ -126,12 +126,14 @@ TEST_F(WindowList, ManyRowsAtOnceLeaveNothingOfTheRowsBefore) {
   ListView_GetItemRect(window_, 549, &last, LVIR_BOUNDS);
   ASSERT_LT(last.bottom, area.bottom);
   const HDC dc = GetDC(window_);
+  int left = 0;
   for (int y = last.bottom; y < area.bottom; ++y) {
     for (int x = 1; x < area.right; x += 3) {
-      ASSERT_EQ(GetPixel(dc, x, y), FormWindow::of(window_)->palette().panel) << x << "," << y;
+      if (GetPixel(dc, x, y) != FormWindow::of(window_)->palette().panel) ++left;
     }
   }
   ReleaseDC(window_, dc);
+  EXPECT_EQ(left, 0) << "points of a row";
 }
 
 TEST_F(WindowList, AMillionRowsStayFluent) {

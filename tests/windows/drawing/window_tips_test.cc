@@ -140,7 +140,7 @@ TEST_F(WindowTips, APlainLabelTellsNothing) {
   EXPECT_EQ(askedOf(label), "");
 }
 
-TEST_F(WindowTips, TheTipGoesWhenTheMouseGoesOn) {
+TEST_F(WindowTips, TheNextToolsTipTakesItsPlace) {
   const HWND tool = shown_.window("Form1", "Toolbar1(8)");
   const HWND tip = tipOf(tool);
   moveOnto(tool);

@@ -18,11 +18,14 @@ class BoxAlone : public WindowTest {
  protected:
   void SetUp() override {
     WindowTest::SetUp();
-    constexpr wchar_t kBrowser[] = L"software\\microsoft\\internet explorer\\main";
     constexpr wchar_t kOther[] = L"http://other.example/";
     set(settings::kMainKey, "protect_home", "1");
     set(settings::kMainKey, "homepage", "about:home");
     RegSetKeyValueW(HKEY_CURRENT_USER, kBrowser, L"Start Page", REG_SZ, kOther, sizeof(kOther));
+  }
+  void TearDown() override {
+    RegDeleteKeyValueW(HKEY_CURRENT_USER, kBrowser, L"Start Page");
+    WindowTest::TearDown();
   }
   // Without a form from the start, as Windows starts it.
   void startSilently() {
@@ -44,6 +47,7 @@ class BoxAlone : public WindowTest {
     pressKey(VK_RETURN);
   }
 
+  static constexpr wchar_t kBrowser[] = L"software\\microsoft\\internet explorer\\main";
   TaskBar bar;
   HWND box_ = nullptr;
 };
@@ -90,6 +94,21 @@ TEST_F(BoxAlone, ComingAfterTheMenuLeavesItToo) {
   ASSERT_TRUE(menuComes());
   choose(kExitEntry);
   EXPECT_EQ(program().waitForEnd(), 0U);
+}
+
+// The question is asked again at each tick, and would come over the menu, which has
+// the mouse.
+TEST_F(BoxAlone, GetsNoOtherAboveItWhileTheMenuIsOpen) {
+  startSilently();
+  ASSERT_TRUE(menuComes());
+  EXPECT_FALSE(comes([this] { return program().waitForBox(0) != box_; }, kTwoTicks));
+  EXPECT_NE(program().windowOfClass(kMenuClass), nullptr);
+  pressKey(VK_ESCAPE);
+  ASSERT_TRUE(menuGoes());
+  ASSERT_TRUE(comes([this] { return program().waitForBox(0) != box_; }, kTwoTicks));
+  const HWND above = program().waitForBox(0);
+  DrivenProgram::answer(above, IDYES);
+  EXPECT_TRUE(comes([above] { return !IsWindow(above); }));
 }
 
 TEST_F(BoxAlone, HoldsTheWindowThatTheIconBringsBack) {
