@@ -30,7 +30,8 @@ BOOL CALLBACK closeBox(HWND window, LPARAM /*unused*/) {
   return box ? FALSE : TRUE;
 }
 
-// The icon's menu has the mouse and the keys, and would cover a box that a timer opens.
+// A menu, such as the icon's, has the mouse and the keys: a box that a timer opens
+// could not be used.
 bool menuIsOpen() {
   GUITHREADINFO info{};
   info.cbSize = sizeof(info);

@@ -15,7 +15,7 @@ bool hasLongName(std::wstring_view path);
 class Win32RegistryKey final : public RegistryKey {
  public:
   /// Takes the handle (HKEY). `view` is the one it was opened in, 0x100 or 0x200, 0
-  /// for a key without views.
+  /// for a person's key, which has none.
   Win32RegistryKey(void* key, std::uint32_t view) : key_(key), view_(view) {}
   ~Win32RegistryKey() override;
   Win32RegistryKey(const Win32RegistryKey&) = delete;

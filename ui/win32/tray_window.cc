@@ -69,8 +69,8 @@ void TrayWindow::sync(bool right_to_left) {
   if (!program_.form.bccc.visible || menu_open_) return;
   menu_open_ = true;
   actions_.post(this, [this, right_to_left] {
-    // Below a box this is called again while the menu is open; a run that is
-    // chosen in it leaves the menu to the icon.
+    // Asked once: this is called again before the menu opens, and at the end of a
+    // session while it is open. A run that is chosen in it leaves the menu to the icon.
     Button* const chosen = openPopupMenu(program_.form, window_, right_to_left);
     menu_open_ = false;
     if (chosen) chosen->press();

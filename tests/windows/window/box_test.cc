@@ -24,8 +24,8 @@ class BoxAlone : public WindowTest {
     RegSetKeyValueW(HKEY_CURRENT_USER, kBrowser, L"Start Page", REG_SZ, kOther, sizeof(kOther));
   }
   void TearDown() override {
-    RegDeleteKeyValueW(HKEY_CURRENT_USER, kBrowser, L"Start Page");
     WindowTest::TearDown();
+    RegDeleteKeyValueW(HKEY_CURRENT_USER, kBrowser, L"Start Page");
   }
   // Without a form from the start, as Windows starts it.
   void startSilently() {
@@ -96,8 +96,7 @@ TEST_F(BoxAlone, ComingAfterTheMenuLeavesItToo) {
   EXPECT_EQ(program().waitForEnd(), 0U);
 }
 
-// The question is asked again at each tick, and would come over the menu, which has
-// the mouse.
+// The question is asked again at each tick, and would come while the menu has the mouse.
 TEST_F(BoxAlone, GetsNoOtherAboveItWhileTheMenuIsOpen) {
   startSilently();
   ASSERT_TRUE(menuComes());
@@ -107,6 +106,9 @@ TEST_F(BoxAlone, GetsNoOtherAboveItWhileTheMenuIsOpen) {
   ASSERT_TRUE(menuGoes());
   ASSERT_TRUE(comes([this] { return program().waitForBox(0) != box_; }, kTwoTicks));
   const HWND above = program().waitForBox(0);
+  ASSERT_NE(above, nullptr);
+  EXPECT_NE(above, box_);
+  EXPECT_TRUE(IsWindow(box_));
   DrivenProgram::answer(above, IDYES);
   EXPECT_TRUE(comes([above] { return !IsWindow(above); }));
 }
