@@ -125,8 +125,8 @@ void Language::apply(Form& form) {
   if (form.name() != "frmabout") on.next([&] { langindex = toInteger(setting("langindex")); });
   file_name = "tavrwipe-" + lang + ".lang";
   const std::string path = programFile(machine_, "lang\\" + file_name);
-  has_file = !on.met([&] { return Dir(machine_, path).empty(); });
-  if (!has_file) return;
+  if (on.met([&] { return Dir(machine_, path).empty(); })) return;
+  shown = lang;
   const ControlFont font = captionFont(registry_, langcode);
   const std::span<const std::string_view> keys = languageKeys(form.name());
   for (const std::string_view key : keys) {

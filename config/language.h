@@ -28,7 +28,7 @@ class Language {
   std::string lang;       ///< code of the language, "de"
   int langindex = 0;      ///< row of the picker
   std::string file_name;  ///< "tavrwipe-de.lang"
-  bool has_file = false;  ///< it was there; without it captions are of another language
+  std::string shown;  ///< what the captions are in: of the last code that had a file, "" for none
 
   /// ApplyLanguage of a form: reads the choice and writes the captions of its
   /// controls. Without a file for the language the captions stay as they are.

@@ -45,6 +45,7 @@ void chkmsg(Machine& machine, frmmsg& form, std::string_view text) {
   form.load();
   form.Text1.setText(text);
   form.visible = true;
+  ++form.shown_again;
   while (form.state.empty()) machine.events.doEvents();
 }
 

@@ -15,8 +15,8 @@ namespace tavr {
 void connectMessageForm(Machine& machine, frmmsg& form);
 
 /// Asks by the message form and pumps events until its state text is no longer
-/// empty: form.state is then "vbYes" or "vbNo". A form that is closed without a
-/// button never answers.
+/// empty: form.state is then "vbYes" or "vbNo". A form that code hides has no answer;
+/// a window that a person closes gives "vbNo".
 void chkmsg(Machine& machine, frmmsg& form, std::string_view text);
 
 class Form4Code {

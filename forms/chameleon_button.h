@@ -24,15 +24,16 @@ class ChameleonButton : public Button {
   static constexpr std::uint32_t kOverTimerInterval = 50;  ///< ms
   static constexpr int kNormal = 0;                        ///< states to draw
   static constexpr int kPressed = 2;
+  static constexpr std::int32_t kOfScheme = -1;  ///< no colour of its own; 0 is black
 
   enum class State : std::uint8_t { kNormal, kOver, kPressed };
 
   explicit ChameleonButton(Events& events);
 
-  std::int32_t color = 0;             ///< BackColor; of the colour scheme until set
-  std::int32_t hover_color = 0;       ///< BackOver
-  std::int32_t text_color = 0;        ///< ForeColor
-  std::int32_t hover_text_color = 0;  ///< ForeOver
+  std::int32_t color = kOfScheme;             ///< BackColor
+  std::int32_t hover_color = kOfScheme;       ///< BackOver
+  std::int32_t text_color = kOfScheme;        ///< ForeColor
+  std::int32_t hover_text_color = kOfScheme;  ///< ForeOver
   std::int32_t mask_color = 0xC0C0C0;
   int button_type = 0;  ///< 1 to 9 and 11 to 14; any other: the plain look
   int color_scheme = 1;

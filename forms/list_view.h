@@ -46,7 +46,12 @@ class ListView : public Control {
   /// The row was clicked.
   std::function<void(int row)> onItemClick;
 
-  void clear() { rows_.clear(); }
+  void clear() {
+    rows_.clear();
+    ++clearings_;
+  }
+  /// How often it was cleared: rows that came behind are others, whatever their texts.
+  std::size_t clearings() const { return clearings_; }
   ListRow& add(std::string_view text, std::string_view small_icon);
   int count() const { return static_cast<int>(rows_.size()); }
   /// Raises 35600 for a row that does not exist. `row` is rounded, as an index
@@ -58,6 +63,7 @@ class ListView : public Control {
 
  private:
   std::deque<ListRow> rows_;
+  std::size_t clearings_ = 0;
 };
 
 }  // namespace tavr

@@ -34,7 +34,8 @@ class IniFiles {
 
   /// GetPrivateProfileSection: the section's "key=value" lines without blanks
   /// around key and value and without comments, each with its NUL, and a closing
-  /// NUL, cut to `capacity` characters, the two NULs included; "" when missing.
+  /// NUL, cut to `capacity` characters, the two NULs included; "" when it
+  /// is missing or empty.
   virtual std::string getSection(std::string_view section, std::uint32_t capacity,
                                  std::string_view file) = 0;
 

@@ -47,10 +47,10 @@ bool clsdirsearch::findSubfolders(const std::string& folder, std::vector<std::st
   machine_.files.find(folder + "*", entries);
   for (const FoundFile& entry : entries) {
     machine_.events.doEvents();
+    // What cannot be asked answers with every bit, that of a folder included.
     std::uint32_t attributes = 0;
-    if (!isDots(entry.name) &&
-        machine_.files.attributes(folder + entry.name, attributes) == kSuccess &&
-        (attributes & kAttrDirectory) != 0) {
+    if (machine_.files.attributes(folder + entry.name, attributes) != kSuccess) attributes = ~0U;
+    if (!isDots(entry.name) && (attributes & kAttrDirectory) != 0) {
       names.push_back(entry.name);
     }
     if (!goOn()) return false;

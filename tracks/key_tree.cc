@@ -16,7 +16,8 @@ void fDeleteSubkeys(Registry& registry, Root root, const std::string& path) {
   // All names first: deleting would move the index under the walk.
   std::vector<std::string> names;
   std::string name;
-  for (std::uint32_t i = 0; opened.key->enumKey(i, name) == kSuccess; ++i) names.push_back(name);
+  for (std::uint32_t i = 0; opened.key->enumKey(i, name) == kSuccess; ++i)
+    names.emplace_back(untilNul(name));
   for (const std::string& subkey : names) {
     fDeleteSubkeys(registry, root, path + "\\" + subkey);
     opened.key->deleteKey(subkey);

@@ -20,7 +20,7 @@ constexpr std::uint32_t kArchive = 32;
 // work on a file that is gone. `value` is the procedure's one text: a read that
 // meets a number appends to it, and what the last read leaves decides about the
 // rows behind this one.
-void overwriteAndKill(TrackContext& context, const std::string& file, const std::string& rounds,
+void overwriteAndKill(TrackContext& context, int row, const std::string& rounds,
                       std::string& value) {
   ResumeNext on;
   double k = 1;
@@ -33,11 +33,11 @@ void overwriteAndKill(TrackContext& context, const std::string& file, const std:
       double m = 1;
       do {
         context.machine.events.doEvents();
-        context.deletion.fOverwriteFile(file);
+        context.deletion.fOverwriteFile(context.form.List20.at(row));
         m += 1;
       } while (m <= Val(value));
     }
-    on.next([&] { Kill(context.machine, file); });
+    on.next([&] { Kill(context.machine, context.form.List20.at(row)); });
     k += 1;
   } while (k <= Val(rounds));
 }
@@ -73,8 +73,8 @@ void c8(TrackContext& context, const Procedure& self) {
     context.machine.events.doEvents();
     const std::string file = form.List20.at(i);
     total += reportRow(context, file, self.rows[0], {mesg, file}, properties);
-    if (Val(value) == 1) overwriteAndKill(context, file, rounds, value);
-    form.List13.add("Removing : " + file);
+    if (Val(value) == 1) overwriteAndKill(context, i, rounds, value);
+    form.List13.add("Removing : " + form.List20.at(i));
     context.cache.fDeleteCacheEntry(form.List21.at(i));
     ++i;
     form.trackcount += 1;

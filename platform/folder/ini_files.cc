@@ -174,6 +174,7 @@ std::string FolderIniFiles::getSection(std::string_view section, std::uint32_t c
     }
     lines += '\0';
   }
+  if (lines.empty()) return {};
   if (reaches(lines, capacity)) {  // no room for the closing NUL
     lines = std::string(leftUtf16(lines, capacity - 2)) + '\0';
   }

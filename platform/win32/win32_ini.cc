@@ -35,14 +35,18 @@ std::vector<Names> spellings(std::string_view section, std::string_view key) {
 // Up to three bytes a unit, where the service counts bytes.
 std::size_t roomFor(std::uint32_t capacity) { return std::size_t{capacity} * 3; }
 
-// Nothing: no such file, section or key.
+// Nothing: no such file, section or key. Whole, up to what the service has room for:
+// a text that is cut within a character of several bytes could not be read as UTF-8.
 std::optional<std::wstring> find(const Names& names, std::size_t room, const NativePath& file) {
   constexpr std::wstring_view kMissing = L"\x1 missing \x1";
-  std::wstring text(room + kMissing.size() + 1, L'\0');
-  text.resize(GetPrivateProfileStringW(names.section.c_str(), names.key.c_str(), kMissing.data(),
-                                       text.data(), static_cast<DWORD>(text.size()), file.c_str()));
-  if (text == kMissing) return std::nullopt;
-  return text;
+  constexpr std::size_t kLongest = 0x10000;
+  for (std::size_t size = room + kMissing.size() + 1;; size *= 2) {
+    std::wstring text(size, L'\0');
+    text.resize(GetPrivateProfileStringW(names.section.c_str(), names.key.c_str(), kMissing.data(),
+                                         text.data(), static_cast<DWORD>(size), file.c_str()));
+    if (text == kMissing) return std::nullopt;
+    if (text.size() + 1 < size || size >= kLongest) return text;
+  }
 }
 
 // "key=value" lines, each with its NUL.

@@ -58,10 +58,17 @@ REGSAM withView(HKEY root, std::wstring_view path, std::uint32_t access) {
 struct CloseKey {
   void operator()(HKEY key) const { RegCloseKey(key); }
 };
+using OwnedKey = std::unique_ptr<HKEY__, CloseKey>;
+
+bool beginsWith(std::wstring_view path, std::wstring_view start) {
+  const auto length = static_cast<int>(start.size());
+  return path.size() >= start.size() &&
+         CompareStringOrdinal(path.data(), length, start.data(), length, TRUE) == CSTR_EQUAL;
+}
 
 OpenedKey opened(LSTATUS status, HKEY key, REGSAM mask) {
   if (status != ERROR_SUCCESS) return {static_cast<Status>(status), nullptr};
-  std::unique_ptr<HKEY__, CloseKey> owned(key);
+  OwnedKey owned(key);
   auto made = std::make_unique<Win32RegistryKey>(key, mask & kBothViews);
   (void)owned.release();
   return {kSuccess, std::move(made)};
@@ -69,13 +76,47 @@ OpenedKey opened(LSTATUS status, HKEY key, REGSAM mask) {
 
 }  // namespace
 
+// The program's own settings stand in the 32-bit view of the machine's software. To
+// find that view Wine asks its server a dozen questions, at each of the hundred
+// settings that a run reads; from a key within it there is one. The keys of others are
+// opened by their whole path: the system may share one of them between the views.
+struct Win32Registry::Software {
+  struct Place {
+    HKEY base;
+    const wchar_t* name;
+    REGSAM mask;
+  };
+
+  Place place(HKEY root, const std::wstring& path, REGSAM mask) {
+    const bool own = root == HKEY_LOCAL_MACHINE && (mask & KEY_WOW64_32KEY) != 0 &&
+                     beginsWith(path, kOwn) &&
+                     (path.size() == kOwn.size() || path[kOwn.size()] == L'\\');
+    if (own && !key_) {
+      HKEY key = nullptr;
+      RegOpenKeyExW(root, L"Software", 0, KEY_READ | KEY_WOW64_32KEY, &key);
+      key_.reset(key);
+    }
+    if (!own || !key_) return {root, path.c_str(), mask};
+    return {key_.get(), path.c_str() + kSoftware.size(), mask & ~kBothViews};
+  }
+
+ private:
+  static constexpr std::wstring_view kSoftware = L"Software\\";
+  static constexpr std::wstring_view kOwn = L"Software\\Tavrwork";
+  OwnedKey key_;
+};
+
+Win32Registry::Win32Registry() : software_(std::make_unique<Software>()) {}
+Win32Registry::~Win32Registry() = default;
+
 OpenedKey Win32Registry::open(Root root, std::string_view path, std::uint32_t access) {
   const HKEY base = handleOf(root);
   const std::wstring name = wide(path);
   if (const Status refused = refusal(base, name, access)) return {refused, nullptr};
   const REGSAM mask = withView(base, name, access);
+  const Software::Place at = software_->place(base, name, mask);
   HKEY key = nullptr;
-  const LSTATUS status = RegOpenKeyExW(base, name.c_str(), 0, mask, &key);
+  const LSTATUS status = RegOpenKeyExW(at.base, at.name, 0, at.mask, &key);
   return opened(status, key, mask);
 }
 
@@ -85,11 +126,13 @@ OpenedKey Win32Registry::create(Root root, std::string_view path, std::string_vi
   const std::wstring name = wide(path);
   if (const Status refused = refusal(base, name, access)) return {refused, nullptr};
   const REGSAM mask = withView(base, name, access);
+  const Software::Place at = software_->place(base, name, mask);
   std::wstring class_text = wide(key_class);
   SECURITY_ATTRIBUTES attributes = {kAttributesLength, nullptr, TRUE};
   HKEY key = nullptr;
-  const LSTATUS status = RegCreateKeyExW(base, name.c_str(), 0, class_text.data(),
-                                         REG_OPTION_NON_VOLATILE, mask, &attributes, &key, nullptr);
+  const LSTATUS status =
+      RegCreateKeyExW(at.base, at.name, 0, class_text.data(), REG_OPTION_NON_VOLATILE, at.mask,
+                      &attributes, &key, nullptr);
   return opened(status, key, mask);
 }
 

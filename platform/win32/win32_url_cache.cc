@@ -19,7 +19,7 @@ class EntryBuffer {
 
   INTERNET_CACHE_ENTRY_INFOW* info() {
     auto* const info = reinterpret_cast<INTERNET_CACHE_ENTRY_INFOW*>(words_.data());
-    info->dwStructSize = sizeof(*info);
+    info->dwStructSize = size();
     return info;
   }
   DWORD size() const { return static_cast<DWORD>(words_.size() * sizeof(std::max_align_t)); }

@@ -103,6 +103,7 @@ TEST_F(IniContract, ASectionIsItsLinesEachWithItsNul) {
   plant("[s]\r\na=1\r\n; comment\r\n\r\n b = 2 \r\n[t]\r\nc=3\r\n[empty]\r\n");
   EXPECT_EQ(section("S"), "a=1\0b=2\0\0"s);
   EXPECT_EQ(section("none"), "");
+  EXPECT_EQ(section("empty"), "");
 }
 
 TEST_F(IniContract, ASectionIsCutToItsBuffer) {
@@ -195,6 +196,15 @@ TEST_F(IniContract, ALongValueIsCutToItsBufferAlone) {
   const std::string value(3000, 'x');
   plant("[s]\r\nk=" + value + "\r\n");
   EXPECT_EQ(get("s", "k", "", 255), value.substr(0, 254));
+  EXPECT_EQ(get("s", "k", "", 4000), value);
+}
+
+// Cut between characters, whatever the number of bytes of each.
+TEST_F(IniContract, ALongValueOfAnotherScriptIsCutToItsBufferToo) {
+  std::string value;
+  for (int i = 0; i < 300; ++i) value += "\u5c65";
+  plant("[s]\r\nk=" + value + "\r\n");
+  EXPECT_EQ(get("s", "k", "", 255), value.substr(0, 254 * 3));
   EXPECT_EQ(get("s", "k", "", 4000), value);
 }
 

@@ -30,7 +30,7 @@ bool endsProcess(const std::function<void()>& action) {
 int RecordingDialogs::messageBox(std::string_view text, std::uint32_t flags,
                                  std::string_view title) {
   asked.push_back({std::string(text), flags, std::string(title)});
-  return answer;
+  return answerTo ? answerTo(asked.back()) : answer;
 }
 
 void HookedEvents::when(std::function<bool()> condition, std::function<void()> action) {

@@ -31,6 +31,7 @@ class RecordingDialogs : public Dialogs {
 
   std::vector<Box> asked;
   int answer = kAnswerNo;
+  std::function<int(const Box& box)> answerTo;  ///< in the place of `answer`
 };
 
 /// The machine's pump, with actions of the test in it.

@@ -51,6 +51,11 @@ class Win32ProcessesTest : public ::testing::Test {
   bool ends(DWORD milliseconds) const {
     return WaitForSingleObject(process_.get(), milliseconds) == WAIT_OBJECT_0;
   }
+  DWORD exitCode() const {
+    DWORD code = STILL_ACTIVE;
+    GetExitCodeProcess(process_.get(), &code);
+    return code;
+  }
 };
 
 TEST_F(Win32ProcessesTest, AProcessThatMayNotBeOpenedIsRefused) {
@@ -63,8 +68,9 @@ TEST_F(Win32ProcessesTest, AProcessThatMayNotBeOpenedIsRefused) {
 TEST_F(Win32ProcessesTest, TheRightToEndItIsEnough) {
   allow(PROCESS_TERMINATE);
   ASSERT_EQ(open(PROCESS_TERMINATE), kSuccess);
-  EXPECT_EQ(opened_->terminate(0), kSuccess);
+  EXPECT_EQ(opened_->terminate(7), kSuccess);
   EXPECT_TRUE(ends(10'000));
+  EXPECT_EQ(exitCode(), 7U);
 }
 
 }  // namespace

@@ -87,5 +87,34 @@ TEST(Win32RegistryTest, APersonsKeysAreNotLookedForBelowWow6432Node) {
   }
 }
 
+// Whatever the view of the call, and however the path is spelled.
+TEST(Win32RegistryTest, TheProgramsOwnKeysStandInTheViewThatIsAskedFor) {
+  constexpr wchar_t kPath[] = L"Software\\Tavrwork\\Tavr Win32 Own";
+  const auto standsIn = [&](REGSAM view) {
+    HKEY key = nullptr;
+    const LSTATUS status = RegOpenKeyExW(HKEY_LOCAL_MACHINE, kPath, 0, KEY_READ | view, &key);
+    if (status == ERROR_SUCCESS) RegCloseKey(key);
+    return status == ERROR_SUCCESS;
+  };
+  Win32Registry registry;
+  const std::string path = "SOFTWARE\\tavrwork\\Tavr Win32 Own";
+  EXPECT_EQ(registry.open(Root::kLocalMachine, path, kAccess).status, kFileNotFound);
+  for (const std::uint32_t view : {0U, 0x200U}) {
+    const OpenedKey made = registry.create(Root::kLocalMachine, path, "1", kAccess | view);
+    ASSERT_EQ(made.status, kSuccess);
+    EXPECT_TRUE(standsIn(KEY_WOW64_32KEY));
+    EXPECT_FALSE(standsIn(KEY_WOW64_64KEY));
+    EXPECT_EQ(registry.open(Root::kLocalMachine, path + "\\", kAccess).status, kSuccess);
+    EXPECT_EQ(registry.open(Root::kLocalMachine, path, kAccess | 0x100).status, kFileNotFound);
+    EXPECT_EQ(made.key->deleteKey(""), kSuccess);
+    EXPECT_FALSE(standsIn(KEY_WOW64_32KEY));
+  }
+  const OpenedKey made = registry.create(Root::kLocalMachine, path, "1", kAccess | 0x100);
+  ASSERT_EQ(made.status, kSuccess);
+  EXPECT_TRUE(standsIn(KEY_WOW64_64KEY));
+  EXPECT_EQ(registry.open(Root::kLocalMachine, path, kAccess).status, kFileNotFound);
+  EXPECT_EQ(made.key->deleteKey(""), kSuccess);
+}
+
 }  // namespace
 }  // namespace tavr::win32

@@ -6,6 +6,7 @@
 #include <oleacc.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include "basic/utf.h"
 #include "forms/chameleon_button.h"
@@ -129,7 +130,7 @@ std::string valueOf(const Control& control) {
   if (!bar || bar->max() <= bar->min()) return "";
   const double low = bar->min();
   const double part = (bar->value() - low) / (bar->max() - low);
-  return std::to_string(static_cast<int>(std::clamp(part, 0.0, 1.0) * kWhole)) + "%";
+  return std::to_string(std::lround(std::clamp(part, 0.0, 1.0) * kWhole)) + "%";
 }
 
 }  // namespace

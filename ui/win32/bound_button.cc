@@ -92,6 +92,8 @@ void BoundButton::draw(HDC dc, const RECT& area, const DrawnState& state) {
   if (chameleon_) {
     // The state that it asked for last: with its refresh disabled, not its own.
     shown.pressed = false;
+    // Nor is the mouse over it that came with a button down.
+    shown.hovered = state.hovered && chameleon_->state() != ChameleonButton::State::kNormal;
     drawChameleonButton(dc, area, *chameleon_, chameleon_->drawn(), look_.role, shown,
                         form_.palette());
   } else {

@@ -16,12 +16,18 @@ BoundListBox::BoundListBox(FormWindow& form, ListBox& list)
          direction);
 }
 
+// The place that a person scrolled to, and the row that the arrows start from, stay.
 void BoundListBox::showRows() {
+  const LRESULT top = SendMessageW(window_, LB_GETTOPINDEX, 0, 0);
+  const LRESULT caret = SendMessageW(window_, LB_GETCARETINDEX, 0, 0);
   SendMessageW(window_, WM_SETREDRAW, FALSE, 0);
   SendMessageW(window_, LB_RESETCONTENT, 0, 0);
   for (const ListBox::Row& row : list_.rows) {
     SendMessageW(window_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(wide(row.text).c_str()));
   }
+  const auto last = static_cast<LRESULT>(list_.rows.size()) - 1;
+  SendMessageW(window_, LB_SETTOPINDEX, std::min(top, last), 0);
+  if (caret >= 0 && last >= 0) SendMessageW(window_, LB_SETCARETINDEX, std::min(caret, last), 0);
   SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
   InvalidateRect(window_, nullptr, TRUE);
 }

@@ -15,7 +15,8 @@ constexpr int kShares[] = {58, 22, 20};
 
 // Internet Explorer shares its letter with what belongs to no browser.
 std::string_view iconOf(const ListRow& row) {
-  return row.text == kInternetExplorer ? "ie" : std::string_view(row.small_icon);
+  const bool browser = row.text == kInternetExplorer && row.small_icon == "a";
+  return browser ? "ie" : std::string_view(row.small_icon);
 }
 
 bool sameCell(const ListCell& a, const ListCell& b) {
@@ -76,6 +77,11 @@ void BoundListView::describe(std::size_t row, std::size_t column, Cell& cell) co
 }
 
 void BoundListView::syncOwn() {
+  if (list_.clearings() != clearings_) {
+    clearings_ = list_.clearings();
+    shown_.clear();
+    forgetRows();
+  }
   const auto rows = static_cast<std::size_t>(list_.count());
   const std::size_t before = shown_.size();
   shown_.resize(rows);

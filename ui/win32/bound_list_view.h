@@ -27,6 +27,7 @@ class BoundListView : public ReportList {
 
   ListView& list_;
   std::vector<ListRow> shown_;
+  std::size_t clearings_ = 0;
 };
 
 }  // namespace tavr::win32

@@ -40,7 +40,7 @@ struct ButtonContent {
   std::optional<COLORREF> mask;  ///< what of a file's picture is not drawn
   bool grey = false;
   bool picture_alone = false;
-  int effect = 0;  ///< of the caption: 1 raised, 2 sunken, 3 with a shadow
+  int effect = 0;  ///< of the caption: 1 raised, 2 sunken, 3 with a shadow, else none
   CaptionLook caption;
   double padding = 12;
   int pushed = 0;  ///< pixels that a press moves it by

@@ -11,8 +11,7 @@ namespace {
 // ColorScheme: what the colours come from that the button does not set itself.
 // Any other number is the calm scheme.
 constexpr int kAccentScheme = 2;
-constexpr int kOwnScheme = 3;  // its own four, black included
-constexpr double kSeen = 3;    // contrast of a line, as WCAG 2 asks for
+constexpr double kSeen = 3;  // contrast of a line, as WCAG 2 asks for
 
 struct Colors {
   COLORREF ground = 0;
@@ -51,14 +50,15 @@ Colors schemeColors(int scheme, const StyleTraits& traits, const Palette& palett
           .accent = palette.accent};
 }
 
-// A number of 0 is a colour that was never set, but in the own scheme.
+bool isSet(std::int32_t color) { return color != ChameleonButton::kOfScheme; }
+
 Colors colorsOf(const ChameleonButton& button, const StyleTraits& traits, const Palette& palette) {
   Colors colors = schemeColors(button.color_scheme, traits, palette);
   if (palette.high_contrast) return colors;
-  const bool all = button.color_scheme == kOwnScheme;
-  const auto take = [all](std::int32_t own, COLORREF& color) {
-    if (all || own != 0) color = fromControlColor(own);
-    return all || own != 0;
+  const auto take = [](std::int32_t own, COLORREF& color) {
+    if (!isSet(own)) return false;
+    color = fromControlColor(own);
+    return true;
   };
   if (take(button.color, colors.ground)) {
     colors.text = colors.hover_text = readableOn(colors.ground);
@@ -119,7 +119,8 @@ StyleInk inkOf(const ChameleonButton& button, const Colors& colors, const DrawnS
   return ink;
 }
 
-ButtonContent contentOf(const ChameleonButton& button, const DrawnState& state) {
+ButtonContent contentOf(const ChameleonButton& button, const DrawnState& state,
+                        const Palette& palette) {
   ButtonContent content;
   const bool over = state.hovered && !button.picture_over.empty();
   content.picture = over ? button.picture_over : button.picture_normal;
@@ -129,7 +130,7 @@ ButtonContent contentOf(const ChameleonButton& button, const DrawnState& state) 
   }
   if (button.use_mask_color) content.mask = fromControlColor(button.mask_color);
   content.grey = button.use_greyscale || !state.enabled;
-  content.effect = button.special_effect;
+  if (!palette.high_contrast) content.effect = button.special_effect;  // it mixes colours
   return content;
 }
 
@@ -150,7 +151,7 @@ void drawStyled(Canvas& canvas, const ChameleonButton& button, const DrawnState&
   drawStyle(canvas, button.button_type, ink);
   if (ink.flat && ink.hovered) canvas.strokeRound(canvas.area(), traits.radius, 2, palette.text);
   Canvas body(canvas.dc(), bodyOf(canvas, traits, ink.pressed), canvas.scale());
-  ButtonContent content = contentOf(button, state);
+  ButtonContent content = contentOf(button, state, palette);
   content.caption = {ink.text, Side::kMiddle, false};
   content.padding = traits.padding;
   content.pushed = traits.pushes && ink.pressed ? canvas.px(1) : 0;
@@ -169,19 +170,19 @@ ButtonFace roleFace(const ChameleonButton& button, ButtonRole role, const DrawnS
   const Colors rest = schemeColors(1, {}, palette);
   const Colors own = colorsOf(button, {}, palette);
   const bool touched = state.hovered || state.pressed;
-  const bool scheme = button.color_scheme == kAccentScheme || button.color_scheme == kOwnScheme;
-  if (button.color != 0 || scheme) face.ground = own.ground;
-  if (touched && (button.hover_color != 0 || scheme)) face.ground = own.hover;
-  if (face.ground && (button.color != 0 || button.hover_color != 0 || scheme)) {
+  const bool scheme = button.color_scheme == kAccentScheme;
+  if (isSet(button.color) || scheme) face.ground = own.ground;
+  if (touched && (isSet(button.hover_color) || scheme)) face.ground = own.hover;
+  if (face.ground && (isSet(button.color) || isSet(button.hover_color) || scheme)) {
     face.text = readableOn(*face.ground);
   }
-  if (own.text != rest.text && (button.text_color != 0 || scheme)) face.text = own.text;
-  if (touched && button.hover_text_color != 0) face.text = own.hover_text;
+  if (own.text != rest.text && (isSet(button.text_color) || scheme)) face.text = own.text;
+  if (touched && isSet(button.hover_text_color)) face.text = own.hover_text;
   // A hover colour that is the resting one would leave the hover unseen.
   if (touched && face.ground && (own.hover == own.ground || *face.ground == palette.accent)) {
     face.edge = mix(*face.ground, face.text, state.pressed ? 0.7 : 0.45);
   }
-  const bool own_ground = button.color != 0 || button.hover_color != 0 || scheme;
+  const bool own_ground = isSet(button.color) || isSet(button.hover_color) || scheme;
   if (own_ground && state.pressed && face.ground) face.ground = mix(*face.ground, kInk, 0.14);
   if (button.soft_bevel && face.edge) {
     face.edge = mix(*face.edge, face.ground.value_or(palette.window), 0.5);
@@ -191,7 +192,7 @@ ButtonFace roleFace(const ChameleonButton& button, ButtonRole role, const DrawnS
 
 void drawByRole(Canvas& canvas, const ChameleonButton& button, ButtonRole role,
                 const DrawnState& state, const Palette& palette) {
-  ButtonContent content = contentOf(button, state);
+  ButtonContent content = contentOf(button, state, palette);
   DrawnState shown = state;
   shown.icon = content.picture;
   const ButtonFace face = roleFace(button, role, shown, palette);

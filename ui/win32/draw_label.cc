@@ -92,6 +92,7 @@ void drawTitleStrip(HDC dc, const RECT& area, std::string_view title, const Draw
   Control caption;
   caption.caption = title;
   caption.font.name = font.name;
+  caption.font.size = font.size;
   caption.font.charset = font.charset;
   drawCaption(dc, text, caption, {palette.strip_text, Side::kStart, true, kTitleSize}, state);
 }

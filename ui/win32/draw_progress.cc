@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "ui/win32/canvas.h"
+#include "ui/win32/caption.h"
 #include "ui/win32/drawing.h"
 
 namespace tavr::win32 {
@@ -28,8 +29,9 @@ double partOf(const ProgressBar& bar) {
 }
 
 COLORREF doneColor(const Bar& bar) {
-  return bar.state.enabled ? bar.palette.accent
-                           : mix(bar.palette.faint_text, bar.palette.panel, 0.5);
+  if (bar.state.enabled) return bar.palette.accent;
+  return bar.palette.high_contrast ? disabledText(bar.palette, bar.palette.panel)
+                                   : mix(bar.palette.faint_text, bar.palette.panel, 0.5);
 }
 
 void drawGroove(const Bar& bar, double radius) {
@@ -72,6 +74,10 @@ void drawGloss(const Bar& bar) {
   bar.canvas.strokeRound(bar.groove, 3, 1, bar.palette.border);
   if (IsRectEmpty(&bar.done)) return;
   const COLORREF color = doneColor(bar);
+  if (bar.palette.high_contrast) {  // the system's colours as they are
+    bar.canvas.fillRound(bar.done, 3, color);
+    return bar.canvas.strokeRound(bar.done, 3, 1, bar.palette.text);
+  }
   bar.canvas.fillDown(bar.done, 3, mix(color, kWhite, 0.4), mix(color, kInk, 0.15));
   bar.canvas.strokeRound(bar.done, 3, 1, mix(color, kInk, 0.25));
 }
@@ -81,7 +87,9 @@ void drawLine(const Bar& bar) {
   const int thickness = std::min(bar.canvas.px(3), static_cast<int>(line.bottom - line.top));
   line.top += (line.bottom - line.top - thickness) / 2;
   line.bottom = line.top + thickness;
-  bar.canvas.fill(line, mix(bar.palette.border, bar.palette.text, 0.1));
+  const bool plain = bar.palette.high_contrast;
+  bar.canvas.fill(line, plain ? bar.palette.panel : mix(bar.palette.border, bar.palette.text, 0.1));
+  if (plain) bar.canvas.strokeRound(line, 0, 1, bar.palette.text);
   RECT done = line;
   done.left = bar.done.left;
   done.right = bar.done.right;
@@ -94,6 +102,7 @@ void drawStripes(const Bar& bar) {
   const COLORREF color = doneColor(bar);
   Canvas part(bar.canvas.dc(), bar.done, bar.canvas.scale());
   part.fillRound(bar.done, 3, color);
+  if (bar.palette.high_contrast) return;
   const double step = part.px(14);
   const double height = bar.done.bottom - bar.done.top;
   const double top = bar.done.top;

@@ -28,6 +28,7 @@ void DrawnControl::registerClass() {
   window_class.cbSize = sizeof(window_class);
   window_class.lpfnWndProc = &drawnControlProcedure;
   window_class.hInstance = GetModuleHandleW(nullptr);
+  window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   window_class.lpszClassName = kClass;
   RegisterClassExW(&window_class);  // a second time it is refused, and stays
 }

@@ -40,14 +40,13 @@ void FormWindow::takeDpi(int dpi) {
   if (tips_) tips_->setFont(fonts_->get(ControlFont()));
 }
 
-// A form keeps its middle whatever the resolution: its place is reckoned for
-// its size at 96 dpi.
+// A form keeps its middle whatever the resolution, and with a strip above it: its
+// place is reckoned for its own size at 96 dpi.
 void FormWindow::layOut(const RECT* suggested) {
   const FormLook& look = lookOf(form_);
-  const int full_height = form_.height + look.strip_above;
   const int width = px(form_.width);
-  const int height = px(full_height);
-  POINT at{form_.left + (form_.width - width) / 2, form_.top + (full_height - height) / 2};
+  const int height = px(form_.height + look.strip_above);
+  POINT at{form_.left + (form_.width - width) / 2, form_.top + (form_.height - height) / 2};
   if (suggested) {
     at = {suggested->left, suggested->top};
   } else {
@@ -72,9 +71,8 @@ void FormWindow::takePosition() {
   if (placing_ || IsIconic(window_)) return;
   RECT at;
   GetWindowRect(window_, &at);
-  const int full_height = form_.height + lookOf(form_).strip_above;
   form_.left = placed_left_ = at.left - (form_.width - (at.right - at.left)) / 2;
-  form_.top = placed_top_ = at.top - (full_height - (at.bottom - at.top)) / 2;
+  form_.top = placed_top_ = at.top - (form_.height - (at.bottom - at.top)) / 2;
 }
 
 // The design leaves room for the longest language; what stands behind a shorter

@@ -10,10 +10,9 @@ constexpr int kHairline = 1;
 
 }  // namespace
 
-std::string FormWindow::title() const {
+const Control* FormWindow::titleLabel() const {
   const FormLook& look = lookOf(form_);
-  const Control* const label = look.title_label.empty() ? nullptr : form_.find(look.title_label);
-  return label ? label->caption : form_.caption;
+  return look.title_label.empty() ? nullptr : form_.find(look.title_label);
 }
 
 COLORREF FormWindow::backgroundOf(const Control& control) const {
@@ -85,9 +84,7 @@ void FormWindow::paint(HDC dc) const {
   DrawnState state;
   state.right_to_left = right_to_left_;
   state.scale = scale();
-  const Control* const label = look.title_label.empty() ? nullptr : form_.find(look.title_label);
-  drawTitleStrip(dc, {0, 0, px(width), px(strip)}, shown_title_, state, palette_,
-                 label ? label->font : ControlFont());
+  drawTitleStrip(dc, {0, 0, px(width), px(strip)}, shown_title_, state, palette_, title_font_);
   SetDCBrushColor(dc, palette_.border);
   const RECT edge{0, px(strip), px(width), px(height)};
   FrameRect(dc, &edge, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));

@@ -32,15 +32,16 @@ class NothingActivates {
 
 void FormWindow::setShadow(bool on) {
   if (on == shadow_) return;
-  shadow_ = on;
   if (!on) {
+    shadow_ = false;
     detachShadow(window_);
     return;
   }
   {
     const NothingActivates meanwhile;
-    attachShadow(window_);
+    shadow_ = attachShadow(window_);
   }
+  if (!shadow_) return;  // tried again at the next turn
   // Nor does a window manager give it the keyboard later.
   const HWND shadow = static_cast<HWND>(GetPropW(window_, kShadowProperty));
   SetWindowLongPtrW(shadow, GWL_EXSTYLE, GetWindowLongPtrW(shadow, GWL_EXSTYLE) | WS_EX_NOACTIVATE);

@@ -121,9 +121,12 @@ void FormWindow::sync(COLORREF strip, bool right_to_left, bool may_show) {
 }
 
 void FormWindow::syncFrame(bool may_show) {
-  const std::string now = title();
-  if (now != shown_title_) {
+  const Control* const label = titleLabel();
+  const std::string& now = label ? label->caption : form_.caption;
+  const ControlFont font = label ? label->font : ControlFont();
+  if (now != shown_title_ || font != title_font_) {
     shown_title_ = now;
+    title_font_ = font;
     SetWindowTextW(window_, wide(now.empty() ? form_.caption : now).c_str());
     InvalidateRect(window_, nullptr, FALSE);
   }

@@ -122,7 +122,7 @@ class FormWindow {
 
   void paint(HDC dc) const;
   void fillArea(HDC dc, int left, int top, int right, int bottom, COLORREF color) const;
-  std::string title() const;
+  const Control* titleLabel() const;
   int startOf(const Control& control, const ControlLook& look) const;
   int widthOf(const Control& control) const;
 
@@ -150,6 +150,7 @@ class FormWindow {
   int placed_left_ = 0;
   int placed_top_ = 0;
   std::string shown_title_;
+  ControlFont title_font_;
   std::string language_;
   AccessibleAnnotation annotation_;
   bool topmost_ = false;

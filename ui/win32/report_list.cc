@@ -148,8 +148,9 @@ LRESULT ReportList::onNotify(NMHDR& notice) {
       return 0;
     case LVN_ITEMCHANGED: {
       const auto& change = reinterpret_cast<const NMLISTVIEW&>(notice);
-      const bool by_keyboard = GetKeyState(VK_LBUTTON) >= 0 && GetFocus() == window_;
-      if (by_keyboard && (change.uNewState & LVIS_SELECTED) != 0 && change.iItem >= 0) {
+      // By the keyboard or by a press, which is no click once the mouse is dragged on.
+      const bool by_person = GetFocus() == window_ && change.iItem >= 0;
+      if (by_person && (change.uNewState & LVIS_SELECTED) != 0) {
         onClick(static_cast<std::size_t>(change.iItem), false);
       }
       return 0;

@@ -64,16 +64,14 @@ TransForm::~TransForm() {
 }
 
 void TransForm::writeProperties(PropertyBag& bag) const {
-  bag["MaskColor"] = storedText(static_cast<std::int32_t>(MaskColor));
+  bag["MaskColor"] = storedText(MaskColor);
   bag["Transparent"] = storedText(Transparent);
   bag["AutoDrag"] = storedText(AutoDrag);
 }
 
 void TransForm::readProperties(const PropertyBag& bag) {
   if (const auto mask = bag.find("MaskColor"); mask != bag.end()) {
-    std::int32_t color = 0;
-    fromStored(mask->second, color);
-    MaskColor = fromControlColor(color);
+    fromStored(mask->second, MaskColor);
   }
   if (const auto shape = bag.find("Transparent"); shape != bag.end()) {
     fromStored(shape->second, Transparent);
@@ -113,7 +111,8 @@ void TransForm::Refresh() {
 }
 
 void TransForm::shapeForm() {
-  HRGN shape = Transparent && picture_ != nullptr ? regionOf(picture_, MaskColor) : nullptr;
+  HRGN shape = Transparent && picture_ != nullptr ? regionOf(picture_, fromControlColor(MaskColor))
+                                                  : nullptr;
   if (shape == nullptr) {
     SetWindowRgn(form_, nullptr, TRUE);
     return;

@@ -24,8 +24,8 @@ class TransForm {
   TransForm(const TransForm&) = delete;
   TransForm& operator=(const TransForm&) = delete;
 
-  COLORREF MaskColor = 0xFF00FF;  ///< what of the picture is no part of the form
-  bool Transparent = true;        ///< false: the form is its whole rectangle
+  std::int32_t MaskColor = 0xFF00FF;  ///< what of the picture is no part of the form
+  bool Transparent = true;            ///< false: the form is its whole rectangle
   bool AutoDrag = true;
 
   void writeProperties(PropertyBag& bag) const;

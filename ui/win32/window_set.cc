@@ -52,9 +52,7 @@ WindowSet::~WindowSet() {
 
 HWND WindowSet::mainWindow() const { return windows_.at(kMain)->window(); }
 
-bool WindowSet::rightToLeft() const {
-  return program_.language.has_file && program_.language.lang == kRightToLeftLanguage;
-}
+bool WindowSet::rightToLeft() const { return program_.language.shown == kRightToLeftLanguage; }
 
 FormEvents WindowSet::eventsOf(std::string_view name) {
   FormEvents events;
@@ -161,7 +159,7 @@ void WindowSet::syncForm(std::string_view name) {
     // Opened by the keyboard, it shows where the keyboard is.
     if (from && from->showsFocus()) window->showFocus();
   }
-  window->setLanguage(program_.language.lang);
+  window->setLanguage(program_.language.shown);
   window->sync(stripOf(*form), rightToLeft(), name != kMain || main_loaded_);
   syncShadow(name, *window);
 }

@@ -12,6 +12,7 @@
 #include "config/maker_site.h"
 #include "services/settings_keys.h"
 #include "tests/support/fake_form_host.h"
+#include "tests/support/scheduler_stage.h"
 
 namespace tavr {
 namespace {
@@ -330,6 +331,29 @@ TEST_F(Form2PlugIns, DeleteAsksWithTheTextsOfTheLanguage) {
   EXPECT_THAT(rows(), ElementsAre("alpha", "beta"));  // until the list is refreshed
   button(8).press();
   EXPECT_THAT(rows(), ElementsAre("alpha"));
+}
+
+TEST_F(Form2PlugIns, DeleteAsksForYesOrNoWithTheSignOfAQuestion) {
+  definitions();
+  const Machine& m = stage().program.machine;
+  testing::Person person;
+  person.answer = kAnswerNo;
+  Machine asking{m.registry, m.wmi,         m.ini,     m.files,   m.processes, m.url_cache,
+                 m.shell,    m.event_log,   m.parent,  m.clock,   m.locale,    m.events,
+                 person,     m.environment, m.desktop, m.accounts};
+  FormContext context{asking,
+                      stage().program.registry,
+                      stage().program.numbers,
+                      stage().program.tracks,
+                      stage().language,
+                      stage().host};
+  Form2Code code(context);
+  code.form.chameleonButton[31].press();
+  code.form.View1.onItemClick(1);
+  code.form.chameleonButton[9].press();
+  ASSERT_THAT(person.boxes, ::testing::SizeIs(1));
+  EXPECT_EQ(person.boxes[0].flags, 36U);
+  EXPECT_TRUE(machine.exists(kPlugIns + "alpha.tv"));
 }
 
 TEST_F(Form2PlugIns, DeleteTakesAReadOnlyDefinitionToo) {

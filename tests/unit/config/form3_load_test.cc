@@ -53,6 +53,13 @@ TEST_F(Options, StandInTheMiddleOfTheScreen) {
   load();
   EXPECT_EQ(form().left, (1920 - form().width) / 2);
   EXPECT_EQ(form().top, (1080 - form().height) / 2 + 13);
+  EXPECT_TRUE(form().topmost);
+}
+
+TEST_F(Options, TakeTheirPictureFromTheImageList) {
+  EXPECT_EQ(form().Image1.file, "");
+  load();
+  EXPECT_EQ(form().Image1.file, "ImageList1(1)");
 }
 
 TEST_F(Options, TheCombosOfferPassesAndLetters) {

@@ -99,13 +99,15 @@ TEST_F(Options, ATypedIntervalIsStoredTrimmed) {
   EXPECT_EQ(stored(kTimerSettings, "nextday"), "");
 }
 
-TEST_F(Options, TheStartOfWindowsOverridesTheSchedule) {
+TEST_F(Options, TheStartOfWindowsOverridesEverySchedule) {
   load();
-  form().Option3.press();
   form().Check1[4].press();
-  form().chameleonButton5.press();
+  for (const char* kind : {"Option1", "Option2", "Option4", "Option5", "Option3"}) {
+    control(kind).press();
+    form().chameleonButton5.press();
+    EXPECT_EQ(stored(kTimerSettings, "option"), "6") << kind;
+  }
   EXPECT_EQ(stored(kTimerSettings, "winstart"), "1");
-  EXPECT_EQ(stored(kTimerSettings, "option"), "6");
   EXPECT_EQ(stored(kTimerSettings, "value"), "0");
   EXPECT_EQ(stored(kTimerSettings, "nextday"), "11/26/2026");
 }

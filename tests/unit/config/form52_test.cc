@@ -270,6 +270,7 @@ TEST_F(KeepList, RefreshReadsTheCookiesAnew) {
 }
 
 TEST_F(KeepList, RefreshListsEveryAddressOnce) {
+  machine.file(kFolder + "url.tvr", "http://kept.example/\r\n");
   addresses();
   opened("2");
   form().keepbutton11.press();
@@ -298,6 +299,21 @@ TEST_F(KeepList, OkKeepsTheAddressesInAFileOfTheirOwn) {
   form().keepbutton7.press();
   EXPECT_EQ(kept("url.tvr"), "http://one.example/\r\nhttp://two.example/\r\n");
   EXPECT_FALSE(machine.exists(kFolder + "cookies.tvr"));
+}
+
+TEST_F(KeepList, AFileThatSomebodyHoldsLeavesTheListEmpty) {
+  cookies();
+  machine.file(kFolder + "cookies.tvr", "kept.txt\r\n")
+      .machineFile("locked.txt", kFolder + "cookies.tvr\n");
+  EXPECT_THAT(texts(opened("1").List2), IsEmpty());
+  EXPECT_THAT(texts(form().List1), ElementsAre("Abc.txt", "b.txt"));
+}
+
+TEST_F(KeepList, OpenedForTheOtherKindItKeepsWhatWasReadBefore) {
+  machine.file(kFolder + "cookies.tvr", "kept.txt\r\n")
+      .file(kFolder + "url.tvr", "http://kept.example/\r\n");
+  opened("1");
+  EXPECT_THAT(texts(opened("2").List2), ElementsAre("kept.txt", "http://kept.example/"));
 }
 
 TEST_F(KeepList, WhatIsWrittenIsReadBack) {

@@ -95,7 +95,7 @@ TEST(ApplyLanguage, WritesCaptionsAndColumnsOfTheMainForm) {
   EXPECT_EQ(form.View100.columns[1], "stato");
   EXPECT_EQ(form.View200.columns[0], "rezulto");
   EXPECT_EQ(form.Label6.caption, "grando") << "until the next run begins";
-  EXPECT_TRUE(stage.language.has_file);
+  EXPECT_EQ(stage.language.shown, "xx");
 }
 
 TEST(ApplyLanguage, AMissingKeyBlanksItsCaption) {
@@ -120,7 +120,7 @@ TEST(ApplyLanguage, WithoutAFileTheDesignStaysTheFontToo) {
   EXPECT_EQ(stage.program.form.cmd_start.font.name, "Segoe UI");
   EXPECT_EQ(stage.language.langcode, 204);
   EXPECT_EQ(stage.language.file_name, "tavrwipe-xx.lang");
-  EXPECT_FALSE(stage.language.has_file);
+  EXPECT_EQ(stage.language.shown, "");
 }
 
 TEST(ApplyLanguage, WithoutAChoiceTheFileWithoutACodeCounts) {

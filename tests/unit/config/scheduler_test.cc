@@ -16,12 +16,22 @@ using testing::kBrowserSettings;
 using testing::kDay;
 using testing::kMainSettings;
 using testing::Scheduler;
+using ::testing::SizeIs;
 
 TEST_F(Scheduler, WithoutAScheduleNothingFires) {
   play(kDay);
   EXPECT_THAT(changes, IsEmpty());
   EXPECT_EQ(form().Text7.text(), "0");
   EXPECT_THAT(person.boxes, IsEmpty());
+}
+
+// What an earlier version was to do: every schedule erases.
+TEST_F(Scheduler, WhatWasToBeDoneOnceMakesNoDifference) {
+  timerSetting("option", "3");
+  timerSetting("nextday", "1/1/2020");
+  timerSetting("whattodo", "2");
+  play(10'000);
+  EXPECT_THAT(fired, SizeIs(1));
 }
 
 TEST_F(Scheduler, AnUnknownKindFiresNothing) {

@@ -146,6 +146,17 @@ TEST(MessageQuestion, PumpsEventsUntilAButtonIsPressed) {
   EXPECT_EQ(form.state, "vbNo");
 }
 
+TEST(MessageQuestion, ComesBeforeWhatStandsOpenOnTop) {
+  TestMachine test_machine;
+  ScriptedEvents events;
+  Machine machine = withEvents(test_machine.machine(), events);
+  frmmsg form(machine.events);
+  const int shown = form.shown_again;
+  events.steps = {[&] { EXPECT_EQ(form.shown_again, shown + 1); }, [&] { form.command2.press(); }};
+  chkmsg(machine, form, "Sure?");
+  EXPECT_EQ(form.state, "vbNo");
+}
+
 TEST(MessageQuestion, ClosingTheFormWithoutAButtonIsNoAnswer) {
   TestMachine test_machine;
   ScriptedEvents events;

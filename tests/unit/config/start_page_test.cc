@@ -61,6 +61,15 @@ TEST_F(StartPage, IsAcceptedOnNo) {
   EXPECT_EQ(person.boxes.size(), 1U);
 }
 
+TEST_F(StartPage, ItsTitleIsKeptAsReadAndShownTrimmed) {
+  machine.value(kBrowserSettings, "window title", " New ");
+  person.answer = kAnswerNo;
+  hold("http://old", "Old");
+  tick();
+  EXPECT_EQ(storedMain("titlepage"), " New ");
+  EXPECT_EQ(form().Text13.text(), "New");
+}
+
 TEST_F(StartPage, IsComparedWithoutCaseAndBlanks) {
   hold("HTTP://NEW/ ", " nEW ");
   tick();

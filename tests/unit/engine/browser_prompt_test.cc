@@ -162,12 +162,15 @@ TEST(BrowserPrompt, YesForInternetExplorerAlsoEndsFirefox) {
 
 TEST(BrowserPrompt, YesForFirefoxLeavesInternetExplorer) {
   TestMachine machine;
-  machine.machineFile("processes.txt", "8 firefox.exe\n9 msedge.exe\n");
+  // No for Internet Explorer, Yes for the two others.
+  machine.machineFile("processes.txt", "7 iexplore.exe\n8 firefox.exe\n9 msedge.exe\n");
   WatchedProgram program(machine);
-  program.dialogs.answer = kAnswerYes;
+  program.dialogs.answerTo = [](const RecordingDialogs::Box& box) {
+    return box == allBoxes().at(0) ? kAnswerNo : kAnswerYes;
+  };
   program.run(RunKind::test);
-  EXPECT_EQ(machine.readMachineFile("processes.txt"), "");
-  EXPECT_THAT(program.dialogs.asked, SizeIs(2));
+  EXPECT_EQ(machine.readMachineFile("processes.txt"), "7 iexplore.exe\n");
+  EXPECT_THAT(program.dialogs.asked, SizeIs(3));
 }
 
 TEST(BrowserPrompt, AnyOtherAnswerCountsAsNo) {

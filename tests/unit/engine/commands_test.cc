@@ -173,8 +173,13 @@ TEST_F(CommandsTest, TheToolbarsStopBringsTheButtonsBack) {
   form.Gif89a1.visible = true;
   form.bar1.setVisible(true);
   form.Label1[0].visible = true;
+  form.cmd_view.enabled = false;
+  form.cmd_stop.enabled = true;
   form.toolbar[10].press();
   EXPECT_EQ(form.stopflag, 1);
+  // The column of commands is the other Stop's.
+  EXPECT_FALSE(form.cmd_view.enabled);
+  EXPECT_TRUE(form.cmd_stop.enabled);
   for (const int index : {1, 2, 4, 6, 8, 11, 12}) EXPECT_TRUE(tool(index)) << index;
   EXPECT_FALSE(tool(10));
   EXPECT_FALSE(form.Gif89a1.visible);
@@ -221,6 +226,7 @@ TEST_F(CommandsTest, ThePlugInEntryNamesItsPage) {
   form.menu[2].press();
   EXPECT_EQ(started.program().message.Text1.text(),
             "Visit\r" + std::string(kMakerSite) + "/plugin.htm");
+  EXPECT_EQ(started.program().message.caption, "Tavr Wipe Pro");
 }
 
 TEST_F(CommandsTest, AWebEntryWhoseProgramStartsShowsNothing) {

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "engine/window.h"
 #include "tests/support/started_program.h"
 
@@ -284,19 +286,21 @@ TEST(InteractiveStart, AFirstTimeMarkThatIsNoNumberOrZeroCountsAsTheFirst) {
 }
 
 TEST(InteractiveStart, TheStripAndItsFourButtonsTakeTheConfiguredColourOrKeepTheDesigns) {
-  for (const auto& [text, color] : {std::pair{" 255 ", 255}, std::pair{"blue", 0}}) {
+  for (const auto& [text, color] :
+       {std::pair{" 255 ", 255}, {"0", 0}, {"blue", ChameleonButton::kOfScheme}}) {
     TestMachine machine;
     usedBefore(machine).setting("tavrwork brightbox", "color", text);
     StartedProgram started(machine);
     started.start();
     const Form1& form = started.form();
-    EXPECT_EQ(form.strip_color, color) << text;
+    EXPECT_EQ(form.has_look_color, color >= 0) << text;
+    EXPECT_EQ(form.strip_color, std::max(color, 0)) << text;
     for (const StripButton* button : {&form.chameleonButton9, &form.chameleonButton10,
                                       &form.chameleonButton12, &form.chameleonButton13}) {
       EXPECT_EQ(button->color, color) << text;
       EXPECT_EQ(button->hover_color, color) << text;
     }
-    EXPECT_EQ(form.chameleonButton11.color, 0) << text;
+    EXPECT_EQ(form.chameleonButton11.color, ChameleonButton::kOfScheme) << text;
   }
 }
 

@@ -94,6 +94,8 @@ TEST(Buttons, StopDuringATestGivesTheOthersBackAtOnce) {
   WatchedProgram program(machine);
   Seen seen;
   bool bar = true, label = true;
+  program.form.toolbar[8].enabled = false;
+  program.form.toolbar[10].enabled = true;
   program.events.next([&] {
     program.form.cmd_stop.click();
     seen = {enabled(program.form), program.form.Gif89a1.visible, program.form.stopflag};
@@ -106,6 +108,9 @@ TEST(Buttons, StopDuringATestGivesTheOthersBackAtOnce) {
   EXPECT_EQ(seen.stopflag, 1);
   EXPECT_FALSE(bar);
   EXPECT_FALSE(label);
+  // The tools are the toolbar's Stop's.
+  EXPECT_FALSE(program.form.toolbar[8].enabled);
+  EXPECT_TRUE(program.form.toolbar[10].enabled);
 }
 
 // The three ways into the trigger box's handler.

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "forms/form3.h"
 #include "tests/support/started_program.h"
 
 namespace tavr {
@@ -138,6 +139,18 @@ TEST_F(WindowTest, AButtonOfAClosedFormNoLongerLooksForTheMouse) {
   ASSERT_TRUE(button->OverTimer.enabled());
   it.program().desk.unload("Form2");
   EXPECT_FALSE(button->OverTimer.enabled());
+}
+
+TEST_F(WindowTest, AHotKeyThatIsSetCountsFromTheNextStart) {
+  StartedProgram& it = started();
+  it.form().chameleonButton8.press();
+  auto& options = dynamic_cast<Form3&>(*it.program().desk.loaded("Form3"));
+  options.Check1[5].press();
+  options.Combo2.setText("K");
+  options.chameleonButton19.press();
+  EXPECT_TRUE(it.desktop().hotKeys().empty());
+  program.reset();
+  EXPECT_EQ(started().desktop().hotKeys().size(), 1U);
 }
 
 TEST_F(WindowTest, TheHotKeyBringsAHiddenWindowBack) {

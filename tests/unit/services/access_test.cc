@@ -133,6 +133,26 @@ TEST(AccessList, AnAccountEndsWhereItSaysSo) {
       << "one that ends too early";
 }
 
+TEST(AccessList, EveryoneIsOneAccountOfTheWorldsAuthority) {
+  EXPECT_EQ(everyoneSid(), std::string("\1\1\0\0\0\0\0\1\0\0\0\0", 12));
+}
+
+// 4 is the revision of lists with entries for parts of an object.
+TEST_F(AccessTest, ANewListHasRevisionTwoWhateverTheOldOneHad) {
+  std::string old = listOf({AccessEntry(kAceAllowed, 0, 3, kSystem)});
+  old[0] = 4;
+  keyList().dacl = old;
+  ASSERT_TRUE(grantKey());
+  EXPECT_EQ(keyList().dacl->at(0), 2);
+  EXPECT_EQ(shown(keyList()).size(), 4u);
+  SecurityDescriptor& file = files().lists["C:\\d\\a"];
+  file.dacl = old;
+  grantFile("C:\\d\\a");
+  EXPECT_EQ(files().written, 1);
+  EXPECT_EQ(file.dacl->at(0), 2);
+  EXPECT_EQ(shown(file).size(), 2u);
+}
+
 TEST_F(AccessTest, AKeyGetsTheDenialFirstThenTheTwoThatAllow) {
   ASSERT_TRUE(grantKey());
   EXPECT_THAT(shown(keyList()),

@@ -82,6 +82,15 @@ TEST_F(CacheEntriesTest, ALaterEntryWithoutAFileHasItsAddressInBothListsAndNoSiz
   EXPECT_EQ(form().txtcountfil.text(), "0");
 }
 
+TEST_F(CacheEntriesTest, ALaterEntrysFileIsTrimmedItsAddressAndTheFirstEntryAreNot) {
+  machine.file("C:\\c\\b.htm", "1234567");
+  entries("1\t http://a \t C:\\c\\a.htm \n1\t http://b \t C:\\c\\b.htm \n1\t http://c \t\n");
+  cache().fListCacheFiles();
+  EXPECT_EQ(rows(form().List20), Names({" C:\\c\\a.htm ", "C:\\c\\b.htm", "http://c"}));
+  EXPECT_EQ(rows(form().List21), Names({" http://a ", " http://b ", " http://c "}));
+  EXPECT_EQ(form().txtcountfil.text(), "7");
+}
+
 TEST_F(CacheEntriesTest, ALaterEntryThatEndsInTxtInAnyCaseIsSkipped) {
   machine.file("C:\\c\\b.txt", "123").file("C:\\c\\c.TXT", "123");
   entries(

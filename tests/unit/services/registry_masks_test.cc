@@ -155,6 +155,16 @@ TEST_F(RegistryMasksTest, TheGrantReachesAKeyOfThe64BitViewAndOfTheUser) {
   EXPECT_FALSE(GrantKeyAccess(machine(), Root::kCurrentUser, "Software\\gone", "user"));
 }
 
+TEST_F(RegistryMasksTest, TheGrantReachesAKeyOfTheMachineInThe64BitViewAlone) {
+  constexpr std::uint32_t kIn64 = 0x2013F;
+  constexpr std::uint32_t kIn32 = 0x2023F;
+  Registry& registry = machine().registry;
+  ASSERT_EQ(registry.create(Root::kLocalMachine, "software\\in64", "", kIn64).status, kSuccess);
+  ASSERT_EQ(registry.create(Root::kLocalMachine, "software\\in32", "", kIn32).status, kSuccess);
+  EXPECT_TRUE(GrantKeyAccess(machine(), Root::kLocalMachine, "software\\in64", "user"));
+  EXPECT_FALSE(GrantKeyAccess(machine(), Root::kLocalMachine, "software\\in32", "user"));
+}
+
 TEST_F(RegistryMasksTest, TheGrantComesBeforeTheKeyIsMade) {
   bool failed = false;
   const RegistryLayer registry(machine(), List12, List20, Text2, &failed);

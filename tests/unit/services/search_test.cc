@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <algorithm>
+#include <filesystem>
+
 #include "basic/resume_next.h"
 #include "services/event_log.h"
 #include "tests/support/forwarding_files.h"
@@ -26,6 +29,25 @@ class OneFile : public testing::ForwardingFiles {
 
  private:
   FoundFile file_;
+};
+
+// Removes a folder once its parent has been listed.
+class VanishingFolder : public testing::ForwardingFiles {
+ public:
+  VanishingFolder(Files& inner, std::string name, std::filesystem::path place)
+      : ForwardingFiles(inner), name_(std::move(name)), place_(std::move(place)) {}
+  void listFolder(std::string_view folder, std::string_view mask, FolderListing& listing) override {
+    ForwardingFiles::listFolder(folder, mask, listing);
+    const std::vector<std::string>& names = listing.subfolders;
+    if (std::find(names.begin(), names.end(), name_) == names.end()) return;
+    removed += std::filesystem::remove_all(place_);
+  }
+
+  std::uintmax_t removed = 0;
+
+ private:
+  std::string name_;
+  std::filesystem::path place_;
 };
 
 class SearchTest : public ::testing::Test {
@@ -77,6 +99,23 @@ TEST_F(SearchTest, WithoutRecursionOnlyTheFoldersOwnFilesAreFound) {
 TEST_F(SearchTest, AFolderThatDoesNotExistGivesNothingAndNoError) {
   EXPECT_EQ(found("C:\\gone", "*.*"), Names());
   EXPECT_EQ(machine.readMachineFile("events.log"), "");
+}
+
+TEST_F(SearchTest, AFolderThatGoesDuringTheWalkLeavesItsSiblingsAndTheParentsFiles) {
+  machine.file("C:\\d\\a.txt").file("C:\\d\\k\\b.txt").file("C:\\d\\z\\c.txt");
+  machine.file("C:\\d\\m\\gone.txt").file("C:\\d\\m\\deep\\gone.txt");
+  VanishingFolder files(machine.machine().files, "m", machine.host("C:\\d\\m"));
+  Machine fake = testing::withFiles(machine.machine(), files);
+  Search walk(fake, stack);
+  EXPECT_NO_THROW(walk.SearchFiles("C:\\d", "*.*", true));
+  EXPECT_EQ(files.removed, 4u) << "two folders, two files";
+  Names all;
+  for (std::size_t i = 1; i <= walk.found().count(); ++i) {
+    all.push_back(walk.found().item(i).FileNameFull);
+  }
+  EXPECT_EQ(all, Names({"C:\\d\\k\\b.txt", "C:\\d\\z\\c.txt", "C:\\d\\a.txt"}));
+  EXPECT_EQ(machine.readMachineFile("events.log"), "");
+  EXPECT_EQ(stack.depth(), 0u);
 }
 
 TEST_F(SearchTest, AMaskWithoutAMatchAddsNothing) {

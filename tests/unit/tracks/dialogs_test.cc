@@ -1,4 +1,7 @@
 // The track of the open and save dialogs, whose two sides read different keys.
+#include <optional>
+
+#include "tests/support/observed_events.h"
 #include "tests/unit/tracks/track_fixture.h"
 
 namespace tavr::testing {
@@ -119,6 +122,44 @@ TEST_F(CleanedDialogs, AStopIsNotAskedFor) {
   call("c5");
   EXPECT_EQ(rows().size(), 2u);
   EXPECT_EQ(value(kVisited, "b"), "<none>");
+}
+
+// The events are watched below the wraps: something is done at every pump.
+class WatchedDialogs : public TrackTest {
+ protected:
+  Machine machineBelow(const Machine& m) override {
+    watched_.emplace(m.events);
+    return withEvents(m, *watched_);
+  }
+  std::optional<ObservedEvents> watched_;
+};
+
+// Without keys each phase goes round once: a pump in the first, and in the
+// others one for the subkey and one for its value.
+TEST_F(WatchedDialogs, CleaningClosesItsTaskRowAfterTheFirstAndTheLastPhaseAlone) {
+  program();
+  std::string seen;
+  watched_->onPump = [&] {
+    const bool closed = countCell().bold && countCell().fore_color == kDarkRed;
+    seen += closed ? "closed " : "open ";
+    countCell().bold = false;  // to see who closes it again
+  };
+  call("c5");
+  EXPECT_EQ(seen, "open closed open open open ");
+  EXPECT_TRUE(countCell().bold);
+}
+
+TEST_F(TestedDialogs, AStopIsNotAskedFor) {
+  world_.value(hkcu(kOpenSave), "a", "x").value(hkcu(kOpenSave), "b", "x");
+  world_.value(hkcu(kOpenSave + "\\txt"), "c", "x").value(hkcu(kOpenSave + "\\txt"), "d", "x");
+  world_.value(hkcu(kOpenSave + "\\zip"), "e", "x");
+  form().stopflag = 1;
+  call("t5");
+  EXPECT_THAT(rows(),
+              ElementsAre("clean open save dialogs a <OK>", "clean open save dialogs b <OK>",
+                          "clean open save dialogs: c  <OK>", "clean open save dialogs: d  <OK>",
+                          "clean open save dialogs: e  <OK>"));
+  EXPECT_EQ(form().trackcount, 5);
 }
 
 TEST_F(TestedDialogs, ReportValuesAndValuesOfSubkeys) {

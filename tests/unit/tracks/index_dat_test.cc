@@ -99,6 +99,15 @@ TEST_F(IndexDat, AMissingFileHasItsRowAndIsMade) {
   EXPECT_EQ(fileSize(), "0");
 }
 
+TEST_F(IndexDat, AMissingFileHasItsRowInTheTestAndIsNotMade) {
+  cookiesAt("C:\\home\\Empty");
+  world_.folder("C:\\home\\Empty");
+  call("t9");
+  EXPECT_THAT(rows(), ElementsAre("Index.dat  <OK>"));
+  EXPECT_FALSE(world_.exists("C:\\home\\Empty\\index.dat"));
+  EXPECT_EQ(fileSize(), "0");
+}
+
 TEST_F(IndexDat, AFolderThatCannotBeEnteredGivesWayToTheShells) {
   cookiesAt("C:\\nowhere");
   world_.ini("[folders]\ncookies=C:\\home\\Cookies\n");

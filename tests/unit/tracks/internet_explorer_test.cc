@@ -191,6 +191,22 @@ TEST_F(ExtensibleCache, CleaningTakesTheUsersKeysAndThoseNamedByTheLoggedOnUser)
   EXPECT_EQ(registryCount(), "2");
 }
 
+TEST_F(ExtensibleCache, CleaningTrimsTheUsersNamesAndNotThoseOfTheLoggedOnUser) {
+  world_.key(hkcu(extensible("6.0") + "\\one "));
+  world_.value("HKEY_LOCAL_MACHINE\\Network\\Logon", "username", "ann");
+  world_.key("HKEY_USERS\\ann\\" + extensible("6.0") + "\\two ");
+  world_.key(hkcu("ann\\" + extensible("6.0") + "\\two"));
+  world_.key(hkcu("ann\\" + extensible("6.0") + "\\two "));
+  call("c11");
+  EXPECT_THAT(rows(), ElementsAre("Cleaning Internet History value: one   <OK>",
+                                  "Cleaning Internet History value: two   <OK>"));
+  EXPECT_THAT(calls({"key "}), ElementsAre("key " + extensible("6.0") + "\\one",
+                                           "key ann\\" + extensible("6.0") + "\\two "));
+  EXPECT_TRUE(keyExists(extensible("6.0") + "\\one "));
+  EXPECT_TRUE(keyExists("ann\\" + extensible("6.0") + "\\two"));
+  EXPECT_FALSE(keyExists("ann\\" + extensible("6.0") + "\\two "));
+}
+
 TEST_F(ExtensibleCache, CleaningAnEmptyKeyTakesTheKeyItself) {
   world_.key(hkcu(extensible("6.0")));
   world_.value("HKEY_LOCAL_MACHINE\\Network\\Logon", "username", "ann");

@@ -1,4 +1,6 @@
 // Deleting a key with everything below it.
+#include <optional>
+
 #include "tests/unit/tracks/track_fixture.h"
 
 namespace tavr::testing {
@@ -67,6 +69,57 @@ TEST_F(KeyTree, WorksInThe64BitView) {
   constexpr std::uint32_t kView64 = 0x2013F;
   EXPECT_EQ(world_.machine().registry.open(Root::kLocalMachine, "SOFTWARE\\both", kView64).status,
             kFileNotFound);
+}
+
+// A key that answers "ab", and more behind a NUL, for its subkey "ab".
+class TailedNames : public RecordingKey {
+ public:
+  TailedNames(std::unique_ptr<RegistryKey> inner, RegistryCalls& calls)
+      : RecordingKey(std::move(inner), "", calls) {}
+  Status enumKey(std::uint32_t index, std::string& name) override {
+    const Status status = RecordingKey::enumKey(index, name);
+    if (status == kSuccess && name == "ab") name.append("\0z", 2);
+    return status;
+  }
+};
+
+class TailedRegistry : public RecordingRegistry {
+ public:
+  using RecordingRegistry::RecordingRegistry;
+  OpenedKey open(Root root, std::string_view path, std::uint32_t access) override {
+    if (++opens_ > kEnough) return {kAccessDenied, nullptr};
+    OpenedKey opened = RecordingRegistry::open(root, path, access);
+    if (opened.key) opened.key = std::make_unique<TailedNames>(std::move(opened.key), calls);
+    return opened;
+  }
+
+ private:
+  // A path that is cut at a NUL leads back to where it was: such a walk has no end.
+  static constexpr int kEnough = 100;
+  int opens_ = 0;
+};
+
+class TailedKeyTree : public TrackTest {
+ protected:
+  Machine machineBelow(const Machine& m) override {
+    tailed_.emplace(m.registry);
+    return {*tailed_,  m.wmi,         m.ini,     m.files,   m.processes, m.url_cache,
+            m.shell,   m.event_log,   m.parent,  m.clock,   m.locale,    m.events,
+            m.dialogs, m.environment, m.desktop, m.accounts};
+  }
+
+ private:
+  std::optional<TailedRegistry> tailed_;
+};
+
+TEST_F(TailedKeyTree, ASubkeysNameEndsAtItsFirstNul) {
+  world_.key(hkcu("Software\\tree\\ab\\below")).key(hkcu("Software\\tree\\one"));
+  fDeleteKeyTree(tracks(), Root::kCurrentUser, "Software\\tree");
+  EXPECT_THAT(calls({"key ", "missing "}),
+              ElementsAre("key Software\\tree\\ab\\below", "key Software\\tree\\ab",
+                          "key Software\\tree\\one", "key Software\\tree"));
+  EXPECT_FALSE(keyExists("Software\\tree"));
+  EXPECT_TRUE(keyExists("Software"));
 }
 
 }  // namespace

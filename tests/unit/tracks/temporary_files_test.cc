@@ -169,6 +169,52 @@ TEST_F(CachedPages, AnOptionKeptAsANumberAppendsToTheTextBefore) {
   EXPECT_EQ(left("a.htm"), std::string(10, 'a'));  // 4097 is not 1
 }
 
+// Only a text and a number are taken; another type leaves what was there before,
+// and that is the "1" of the secure cleaning.
+TEST_F(CachedPages, AnOptionOfAnotherTypeCountsAsOnWhateverItHolds) {
+  keepEntriesAndFiles();
+  secure("1", "", "1");
+  world_.rawValue("HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\tavrwork\\tavr wipe\\option\\option",
+                  "3", "hex(2):30,00,00,00");  // "0" as REG_EXPAND_SZ
+  call("c8");
+  EXPECT_EQ(left("a.htm") + left("b.htm") + left("c.htm"),
+            "<overwritten><overwritten><overwritten>");
+}
+
+// While a file is overwritten a timer may start a run of its own, which fills
+// the lists anew: every later step takes what stands in the row by then.
+TEST_F(CachedPages, AListThatChangesDuringTheOverwritingIsReadAnewByTheStepsBehind) {
+  keepEntries();
+  secure("1", "1", "1");
+  world_.file("C:\\cache\\other.htm", "other");
+  program();
+  events().actAt(4, [this] {  // row, round and repetition before, then the first block
+    form().List20.clear();
+    form().List20.add("C:\\cache\\other.htm");
+  });
+  call("c8");
+  EXPECT_THAT(rows(), ElementsAre(" = C:\\cache\\a.htm  <OK>"));
+  EXPECT_EQ(left("a.htm"), "<overwritten>");
+  EXPECT_EQ(left("other.htm"), "<gone>");
+  EXPECT_THAT(texts(form().List13), ElementsAre("Removing : C:\\cache\\other.htm"));
+  EXPECT_EQ(left("b.htm"), std::string(20, 'b'));
+}
+
+TEST_F(CachedPages, AListThatChangesBetweenTwoOverwritingsIsReadAnewByTheSecond) {
+  keepEntriesAndFiles();
+  secure("1", "1", "2");
+  world_.file("C:\\cache\\other.htm", "other");
+  program();
+  events().actAt(4, [this] {
+    form().List20.clear();
+    form().List20.add("C:\\cache\\other.htm");
+  });
+  call("c8");
+  EXPECT_EQ(left("a.htm"), "<overwritten>");
+  // Once in the first round and twice in the second, a block more each time.
+  EXPECT_EQ(world_.read("C:\\cache\\other.htm"), std::string(3 * 8192, '#'));
+}
+
 class OddCache : public TrackTest {};
 
 TEST_F(OddCache, AnEmptyCacheStillGivesOneRowWithAnEmptyName) {

@@ -1,6 +1,7 @@
 // Procedures called by name, as a run calls them, on a machine of their own.
 // The machine's event pump and registry are wrapped: a test may act at the nth
-// pump and may ask for the registry calls in their order.
+// pump and may ask for the registry calls in their order. A suite may put doubles
+// of its own between the machine and these.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -88,11 +89,14 @@ class TrackTest : public ::testing::Test {
   }
   static std::string hkcu(std::string_view key) { return "HKEY_CURRENT_USER\\" + std::string(key); }
 
+  /// The machine that the program gets below the wraps.
+  virtual Machine machineBelow(const Machine& real) { return real; }
+
   TestMachine world_;
 
  private:
   void start() {
-    Machine& m = world_.machine();
+    const Machine m = machineBelow(world_.machine());
     events_ = std::make_unique<ActingEvents>(m.events);
     registry_ = std::make_unique<RecordingRegistry>(m.registry);
     machine_ = std::make_unique<Machine>(Machine{

@@ -47,6 +47,11 @@ class Vanishing : public TrackTest, public ::testing::WithParamInterface<int> {
 TEST_P(Vanishing, AFileLeavesTheOthersToGo) {
   vanishes("b.tmp");
   expectTheRestToBeGone();
+  // It was found, so it is shown and counted as the others are.
+  EXPECT_THAT(rows(), ::testing::Contains(temp("b.tmp") + " windows temp folder "));
+  EXPECT_EQ(rows().size(), 5u);
+  EXPECT_EQ(form().trackcount, 5);
+  EXPECT_EQ(form().tracksize, 5);
 }
 
 TEST_P(Vanishing, AFolderLeavesTheRestOfTheWalk) {

@@ -218,6 +218,26 @@ TEST(AccessibleControls, ASignIsReadOutInTheLanguageInForce) {
   EXPECT_EQ(ask(shown.window("Form1", "chameleonButton9")).name, "Schließen");
 }
 
+TEST(AccessibleControls, ASignIsReadOutInTheLanguageOfTheCaptions) {
+  ShownProgram shown("xx");  // of which there is no file
+  EXPECT_EQ(shown.control("Form1", "cmd_start").caption, "Erase");
+  EXPECT_EQ(ask(shown.window("Form1", "chameleonButton10")).name, "Minimize");
+  ShownProgram german("de");
+  german.program().language.lang = "xx";  // picked, and there is no file
+  german.pump();
+  EXPECT_EQ(ask(german.window("Form1", "chameleonButton10")).name, "Minimieren");
+}
+
+// The forms that no language file has captions for.
+TEST(AccessibleControls, TheKeepListAndTheMessagesAreEnglishInEveryLanguage) {
+  ShownProgram shown("de");
+  for (const std::string_view form : {"Form52", "Form4", "frmmsg"}) shown.open(form);
+  EXPECT_EQ(shown.control("Form1", "cmd_start").caption, "Löschen");
+  EXPECT_EQ(ask(shown.window("Form52", "keepbutton10")).name, "Cancel");
+  EXPECT_EQ(ask(shown.window("Form4", "command2")).name, "OK");
+  EXPECT_EQ(ask(shown.window("frmmsg", "command2")).name, "No");
+}
+
 TEST(AccessibleControls, AFigureIsReadOutWithWhatItCounts) {
   ShownProgram shown("fr");
   auto& figure = dynamic_cast<Label&>(shown.control("Form1", "Label4"));
@@ -257,6 +277,9 @@ TEST(AccessibleControls, AProgressBarTellsItsPart) {
   const Asked told = ask(shown.window("Form1", "bar1"));
   EXPECT_EQ(told.role, ROLE_SYSTEM_PROGRESSBAR);
   EXPECT_EQ(told.value, "25%");
+  bar.setValue(58);  // 28.999... as a fraction of two
+  shown.pump();
+  EXPECT_EQ(ask(shown.window("Form1", "bar1")).value, "29%");
 }
 
 TEST(AccessibleControls, TheEntryOfTheOpenPanelIsSelected) {

@@ -101,11 +101,7 @@ TEST_P(ChameleonStyle, ShowsEveryStateInHighContrast) {
 
 // A mixed colour could come near to the text's.
 TEST_P(ChameleonStyle, HasGroundsOfTheSystemsColoursOnlyInHighContrast) {
-  palette_ = Palette::ofSystem();
-  palette_.window = palette_.panel = palette_.raised = palette_.hover = RGB(0, 0, 0);
-  palette_.text = palette_.faint_text = palette_.border = RGB(255, 255, 255);
-  palette_.accent = palette_.selection = RGB(26, 235, 255);
-  palette_.accent_text = RGB(0, 0, 0);
+  palette_ = highContrast();
   button_.caption = "";
   button_.color_scheme = 2;
   button_.color = RGB(90, 90, 90);
@@ -217,16 +213,29 @@ TEST_F(ChameleonDrawing, ColourSchemesEffectsAndSoftBevelChangeTheLook) {
   EXPECT_EQ(calm->differing(*draw(button)), 0);
 }
 
-TEST_F(ChameleonDrawing, TakesBlackForAColourOfItsOwnScheme) {
+TEST_F(ChameleonDrawing, TakesBlackForAColourOfItsOwn) {
   ChameleonButton button(events_);
   button.button_type = 11;
   button.color = RGB(255, 255, 0);
   button.caption = "";
   const RECT inside{8, 8, 96, 20};
   EXPECT_EQ(draw(button, {.hovered = true})->count(inside, RGB(0, 0, 0)), 0);
-  button.color_scheme = 3;
+  button.hover_color = 0;
   EXPECT_EQ(draw(button)->count(inside, RGB(255, 255, 0)), 88 * 12);
   EXPECT_EQ(draw(button, {.hovered = true})->count(inside, RGB(0, 0, 0)), 88 * 12);
+}
+
+// The strip in black, as a person may have it: its buttons take it like any colour.
+TEST_F(ChameleonDrawing, KeepsTheColourOfABlackStripUnderTheMouse) {
+  ChameleonButton button(events_);
+  const DrawnState over{.hovered = true, .icon = "close"};
+  const RECT all{0, 0, kSize.cx, kSize.cy};
+  const int danger = draw(button, over, 0, ButtonRole::kStrip)->count(all, palette_.danger);
+  EXPECT_GE(danger, kSeenState);
+  button.color = button.hover_color = 0;
+  const auto black = draw(button, over, 0, ButtonRole::kStrip);
+  EXPECT_EQ(black->count(all, palette_.danger), 0);
+  EXPECT_GE(black->count(all, RGB(0, 0, 0)), kSeenState);
 }
 
 TEST_F(ChameleonDrawing, ChangesWithEveryRoleThatDrawsItsDefaultStyle) {

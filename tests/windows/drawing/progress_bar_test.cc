@@ -6,6 +6,7 @@
 
 #include "tests/windows/drawing/picture.h"
 #include "tests/windows/drawing/stubs.h"
+#include "ui/win32/caption.h"
 
 namespace tavr::win32 {
 namespace {
@@ -88,6 +89,22 @@ TEST_P(ProgressDrawing, LooksLikeNoOther) {
   }
 }
 
+// Any other style is the second, any other look the first.
+TEST_P(ProgressDrawing, AnotherNumberIsOneOfTheFiveLooks) {
+  const auto own = draw(60);
+  if (GetParam().style == 1) {
+    bar_.setStyle(7);
+    EXPECT_EQ(own->differing(*draw(60)), 0);
+  }
+  if (GetParam().look == 0) {
+    bar_.setProgressLook(9);
+    EXPECT_EQ(own->differing(*draw(60)), 0);
+  } else if (GetParam().style == 1) {
+    bar_.setProgressLook(2);
+    EXPECT_EQ(own->differing(*draw(60)), 0);
+  }
+}
+
 TEST_P(ProgressDrawing, StaysWithinItsRectangle) {
   bar_.setValue(77);
   for (const double scale : {1.0, 2.0, 3.0}) {
@@ -105,6 +122,25 @@ TEST_P(ProgressDrawing, StaysWithinItsRectangle) {
 TEST_P(ProgressDrawing, IsSeenInHighContrast) {
   palette_ = Palette::ofSystem();
   EXPECT_NEAR(reach(50), kSize.cx / 2, GetParam().step + 2);
+}
+
+// Rounded corners are smooth in every scheme, so those rows are left out.
+TEST_P(ProgressDrawing, MixesNoColoursInHighContrast) {
+  palette_ = highContrast();
+  for (const bool enabled : {true, false}) {
+    const auto picture = draw(60, {.enabled = enabled});
+    int mixed = 0;
+    for (int y = kSize.cy / 3; y < kSize.cy * 2 / 3; ++y) {
+      for (int x = 8; x < kSize.cx / 2; ++x) {
+        const COLORREF color = picture->at(x, y);
+        const bool of_scheme = color == palette_.panel || color == palette_.text ||
+                               color == palette_.accent ||
+                               color == disabledText(palette_, palette_.panel);
+        mixed += of_scheme ? 0 : 1;
+      }
+    }
+    EXPECT_EQ(mixed, 0) << enabled;
+  }
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include "platform/dialogs.h"
 #include "platform/events.h"
+#include "ui/win32/drawing.h"
 
 namespace tavr::win32 {
 
@@ -34,5 +35,15 @@ class NotingDialogs : public Dialogs {
 
   std::vector<ShownBox> boxes;
 };
+
+/// Of a scheme in black, as far as a palette goes.
+inline Palette highContrast() {
+  Palette palette = Palette::ofSystem();
+  palette.window = palette.panel = palette.raised = palette.hover = RGB(0, 0, 0);
+  palette.text = palette.faint_text = palette.border = RGB(255, 255, 255);
+  palette.accent = palette.selection = RGB(26, 235, 255);
+  palette.accent_text = RGB(0, 0, 0);
+  return palette;
+}
 
 }  // namespace tavr::win32

@@ -19,6 +19,24 @@ class WindowButtons : public ::testing::Test {
     SendMessageW(window(), message, wparam, lparam);
     shown_.pump();
   }
+  std::vector<COLORREF> picture() {
+    const HDC screen = GetDC(nullptr);
+    const HDC dc = CreateCompatibleDC(screen);
+    RECT area{};
+    GetClientRect(window(), &area);
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, area.right, area.bottom);
+    const HGDIOBJ before = SelectObject(dc, bitmap);
+    SendMessageW(window(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
+    std::vector<COLORREF> pixels;
+    for (int y = 0; y < area.bottom; ++y) {
+      for (int x = 0; x < area.right; ++x) pixels.push_back(GetPixel(dc, x, y));
+    }
+    SelectObject(dc, before);
+    DeleteObject(bitmap);
+    DeleteDC(dc);
+    ReleaseDC(nullptr, screen);
+    return pixels;
+  }
 
   ShownProgram shown_;
   ChameleonButton& button_ = shown_.program().form.chameleonButton11;
@@ -85,7 +103,7 @@ TEST_F(WindowButtons, APressBesideTheButtonIsNoneWhileItHoldsTheMouse) {
 
 TEST_F(WindowButtons, AHandPointsAtOneThatWantsIt) {
   const auto cursor = [this] {
-    SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+    SetCursor(LoadCursorW(nullptr, IDC_IBEAM));  // of the box that it comes from
     SendMessageW(window(), WM_SETCURSOR, reinterpret_cast<WPARAM>(window()),
                  MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
     return GetCursor();
@@ -97,24 +115,6 @@ TEST_F(WindowButtons, AHandPointsAtOneThatWantsIt) {
 }
 
 TEST_F(WindowButtons, WithItsRefreshDisabledAPressIsNotShownBeforeTheNextRefresh) {
-  const auto picture = [this] {
-    const HDC screen = GetDC(nullptr);
-    const HDC dc = CreateCompatibleDC(screen);
-    RECT area{};
-    GetClientRect(window(), &area);
-    const HBITMAP bitmap = CreateCompatibleBitmap(screen, area.right, area.bottom);
-    const HGDIOBJ before = SelectObject(dc, bitmap);
-    SendMessageW(window(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
-    std::vector<COLORREF> pixels;
-    for (int y = 0; y < area.bottom; ++y) {
-      for (int x = 0; x < area.right; ++x) pixels.push_back(GetPixel(dc, x, y));
-    }
-    SelectObject(dc, before);
-    DeleteObject(bitmap);
-    DeleteDC(dc);
-    ReleaseDC(nullptr, screen);
-    return pixels;
-  };
   button_.onClick = nullptr;
   button_.DisableRefresh();
   const std::vector<COLORREF> before = picture();
@@ -137,6 +137,46 @@ TEST_F(WindowButtons, AMouseThatLeavesQuicklyIsNoticedByTheNextTick) {
   EXPECT_FALSE(button_.OverTimer.enabled());
 }
 
+// The state is what its look shows, not where the mouse is.
+TEST_F(WindowButtons, AMouseThatComesWithAButtonDownLightsNothing) {
+  const std::vector<COLORREF> rest = picture();
+  send(WM_MOUSEMOVE, MK_RBUTTON);
+  EXPECT_EQ(button_.state(), ChameleonButton::State::kNormal);
+  EXPECT_EQ(picture(), rest);
+  send(WM_MOUSEMOVE);
+  EXPECT_EQ(button_.state(), ChameleonButton::State::kOver);
+  EXPECT_NE(picture(), rest);
+}
+
+TEST_F(WindowButtons, TheSpaceBarEndsAPressOfTheMouseWithoutAClickOfIts) {
+  int clicks = 0;
+  button_.onClick = [&clicks] { ++clicks; };
+  SetFocus(window());
+  send(WM_LBUTTONDOWN, MK_LBUTTON);
+  send(WM_KEYDOWN, VK_SPACE, 1);
+  EXPECT_EQ(button_.state(), ChameleonButton::State::kPressed);
+  send(WM_KEYUP, VK_SPACE, 1);
+  EXPECT_EQ(button_.state(), ChameleonButton::State::kNormal);
+  const int by_space = clicks;
+  send(WM_LBUTTONUP);
+  EXPECT_EQ(clicks, by_space) << "it was no longer pressed";
+}
+
+TEST_F(WindowButtons, EveryArrowMovesTheFocus) {
+  for (const WPARAM key : {VK_UP, VK_LEFT, VK_DOWN, VK_RIGHT}) {
+    SetFocus(window());
+    ASSERT_EQ(GetFocus(), window());
+    send(WM_KEYDOWN, key, 1);
+    const bool back = key == VK_UP || key == VK_LEFT;
+    const HWND there = GetFocus();
+    EXPECT_NE(there, window()) << key;
+    send(WM_KEYUP, key, 1);
+    SetFocus(window());
+    send(WM_KEYDOWN, back ? VK_DOWN : VK_UP, 1);
+    EXPECT_NE(GetFocus(), there) << key;
+  }
+}
+
 TEST_F(WindowButtons, AReleaseBesideTheButtonIsNoClick) {
   int clicks = 0;
   button_.onClick = [&clicks] { ++clicks; };
@@ -156,7 +196,7 @@ TEST_F(WindowButtons, AReleaseBesideTheButtonIsNoClick) {
 TEST_F(WindowButtons, AButtonThatLosesItsWindowWhileItIsHeldIsLetGoOf) {
   send(WM_LBUTTONDOWN, MK_LBUTTON);
   ASSERT_EQ(button_.state(), ChameleonButton::State::kPressed);
-  shown_.program().language.lang = "ar";
+  shown_.program().language.shown = "ar";
   shown_.pump();
   EXPECT_EQ(button_.state(), ChameleonButton::State::kNormal);
 }
@@ -184,12 +224,44 @@ TEST_F(WindowButtons, EveryPropertyThatIsDrawnRedrawsItsButton) {
     return GetUpdateRect(window(), nullptr, FALSE) != FALSE;
   };
   EXPECT_FALSE(redrawnBy(button_.tag, "not drawn"));
-  EXPECT_TRUE(redrawnBy(button_.text_color, 255));
+  EXPECT_TRUE(redrawnBy(button_.color, 255));
   EXPECT_TRUE(redrawnBy(button_.hover_color, 255));
+  EXPECT_TRUE(redrawnBy(button_.text_color, 255));
+  EXPECT_TRUE(redrawnBy(button_.hover_text_color, 255));
+  EXPECT_TRUE(redrawnBy(button_.mask_color, 255));
+  EXPECT_TRUE(redrawnBy(button_.button_type, 4));
+  EXPECT_TRUE(redrawnBy(button_.color_scheme, 2));
+  EXPECT_TRUE(redrawnBy(button_.show_focus_rect, !button_.show_focus_rect));
   EXPECT_TRUE(redrawnBy(button_.soft_bevel, !button_.soft_bevel));
   EXPECT_TRUE(redrawnBy(button_.picture_normal, "a.bmp"));
+  EXPECT_TRUE(redrawnBy(button_.picture_over, "b.bmp"));
+  EXPECT_TRUE(redrawnBy(button_.picture_position, 2));
+  EXPECT_TRUE(redrawnBy(button_.use_mask_color, !button_.use_mask_color));
+  EXPECT_TRUE(redrawnBy(button_.use_greyscale, !button_.use_greyscale));
   EXPECT_TRUE(redrawnBy(button_.special_effect, 1));
   EXPECT_TRUE(redrawnBy(button_.check_box_behaviour, true));
+  EXPECT_TRUE(redrawnBy(button_.value, true));
+  EXPECT_TRUE(redrawnBy(button_.caption, "Another"));
+}
+
+TEST_F(WindowButtons, EveryPropertyOfTheProgressBarRedrawsIt) {
+  ProgressBar& bar = shown_.program().form.bar1;
+  bar.setVisible(true);
+  shown_.pump();
+  const HWND window = shown_.window("Form1", "bar1");
+  const auto redrawnBy = [&](auto&& set) {
+    UpdateWindow(window);
+    ValidateRect(window, nullptr);
+    set();
+    BoundControl::of(window)->sync();
+    return GetUpdateRect(window, nullptr, FALSE) != FALSE;
+  };
+  EXPECT_FALSE(redrawnBy([] {}));
+  EXPECT_TRUE(redrawnBy([&] { bar.setValue(40); }));
+  EXPECT_TRUE(redrawnBy([&] { bar.setMin(10); }));
+  EXPECT_TRUE(redrawnBy([&] { bar.setMax(90); }));
+  EXPECT_TRUE(redrawnBy([&] { bar.setStyle(1 - bar.style()); }));
+  EXPECT_TRUE(redrawnBy([&] { bar.setProgressLook(2); }));
 }
 
 }  // namespace

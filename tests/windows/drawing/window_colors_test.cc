@@ -103,6 +103,53 @@ TEST_F(WindowColors, ALanguageThatIsHighlightedByItsFormIsShownSo) {
   EXPECT_EQ(ground("lbllanguage(2)"), palette("Form1").panel);
 }
 
+// The first row stays lit, as the panel looks after the others only.
+TEST_F(WindowColors, ALanguageLightsUpUnderTheMouseUntilItIsBesideTheRows) {
+  main().chameleonButton12.press();
+  shown_.pump();
+  const auto lit = [this](std::string_view row) {
+    return seen(shown_.window("Form1", row))->at(1, 1) == palette("Form1").hover;
+  };
+  const auto moveOver = [this](std::string_view name) {
+    SendMessageW(shown_.window("Form1", name), WM_MOUSEMOVE, 0, MAKELPARAM(2, 2));
+    shown_.pump();
+  };
+  moveOver("lbllanguage(0)");
+  moveOver("lbllanguage(2)");
+  EXPECT_TRUE(lit("lbllanguage(0)"));
+  EXPECT_TRUE(lit("lbllanguage(2)"));
+  EXPECT_FALSE(lit("lbllanguage(3)"));
+  moveOver("pictrlang");
+  EXPECT_TRUE(lit("lbllanguage(0)"));
+  EXPECT_FALSE(lit("lbllanguage(2)"));
+}
+
+// A row shows the sign of its letter; a plug-in that has the browser's name its own.
+TEST_F(WindowColors, ATaskShowsTheSignOfItsLetter) {
+  constexpr std::string_view kBrowser = "Internet Explorer Browser";
+  const HWND table = shown_.window("Form1", "View100");
+  const auto show = [&](std::string_view text, std::string_view letter) {
+    main().View100.clear();
+    main().View100.add(text, letter);
+    shown_.pump();
+    return seen(table);
+  };
+  const auto browser = show(kBrowser, "a");
+  const auto plug_in = show(kBrowser, "c");
+  EXPECT_GE(browser->differing(*plug_in), 12);
+  EXPECT_GE(plug_in->differing(*show(kBrowser, "o")), 12);
+  EXPECT_GE(show("Cookies", "a")->differing(*show("Cookies", "c")), 12);
+  EXPECT_GE(show("Cookies", "c")->differing(*show("Cookies", "d")), 12);
+}
+
+TEST_F(WindowColors, TheTitleIsWrittenInTheFontOfItsLanguage) {
+  const HWND form = shown_.formWindow("Form1");
+  const auto before = seen(form);
+  shown_.control("Form1", "Label88(6)").font.size = "12";
+  shown_.pump();
+  EXPECT_GE(before->differing(*seen(form)), 20);
+}
+
 TEST_F(WindowColors, AScrollBarShowsThatItHasTheKeyboard) {
   open(shown_, {"Form3", "chameleonButton8"});
   const HWND bar = shown_.window("Form3", "VScroll1");

@@ -95,7 +95,7 @@ TEST_F(WindowHands, AMousePressTakesTheRingOffTheControlThatKeepsTheFocus) {
   ASSERT_TRUE(form.showsFocus());
   UpdateWindow(button);
   ASSERT_FALSE(GetUpdateRect(button, nullptr, FALSE));
-  // A separator of the toolbar: it takes no focus and opens nothing.
+  // A tool: the mouse gives it no focus, and it is not let go here.
   SendMessageW(shown_.window("Form1", "Toolbar1(2)"), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(1, 1));
   EXPECT_EQ(GetFocus(), button);
   EXPECT_TRUE(GetUpdateRect(button, nullptr, FALSE)) << "it is drawn anew";
@@ -236,6 +236,15 @@ TEST_F(WindowHands, AListThatIsLeftWithoutAChoiceShowsTheTextOfTheForm) {
   wchar_t text[8] = L"";
   GetWindowTextW(window, text, 8);
   EXPECT_STREQ(text, L"k");
+}
+
+TEST_F(WindowHands, AStoredNumberThatTheListDoesNotOfferIsShown) {
+  open(shown_, {"Form3", "cmd_plugin"});
+  dynamic_cast<ComboBox&>(shown_.control("Form3", "Combo1")).setText("20");
+  shown_.pump();
+  wchar_t text[8] = L"";
+  GetWindowTextW(shown_.window("Form3", "Combo1"), text, 8);
+  EXPECT_STREQ(text, L"20");
 }
 
 TEST_F(WindowHands, BehindWhatIsTypedTheCaretStandsAtTheEndOfAnInterval) {

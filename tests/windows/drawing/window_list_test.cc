@@ -136,6 +136,57 @@ TEST_F(WindowList, ManyRowsAtOnceLeaveNothingOfTheRowsBefore) {
   EXPECT_EQ(left, 0) << "points of a row";
 }
 
+// The rows of the run before are gone, and with them the mark and the place.
+TEST_F(WindowList, ATaskTableThatIsBuiltAnewBeginsAtItsTop) {
+  ListView& tasks = shown_.program().form.View100;
+  const auto fill = [&] {
+    tasks.clear();
+    for (int i = 0; i < 60; ++i) tasks.add("Task " + std::to_string(i), "a");
+    shown_.pump();
+  };
+  fill();
+  const HWND table = shown_.window("Form1", "View100");
+  ListView_SetItemState(table, 59, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+  ListView_EnsureVisible(table, 59, FALSE);
+  ASSERT_GT(ListView_GetTopIndex(table), 0);
+  tasks.item(3).subItem(1).text = "Finished";
+  shown_.pump();
+  EXPECT_GT(ListView_GetTopIndex(table), 0) << "a status moves nothing";
+  fill();
+  EXPECT_EQ(ListView_GetTopIndex(table), 0);
+  EXPECT_EQ(ListView_GetNextItem(table, -1, LVNI_SELECTED), -1);
+  EXPECT_EQ(ListView_GetItemCount(table), 60);
+}
+
+TEST_F(WindowList, AHeaderThatCannotBeClickedIsNoButton) {
+  ListHeader& header = shown_.program().form.View100.header;
+  const HWND window = ListView_GetHeader(shown_.window("Form1", "View100"));
+  header.style = ListHeader::kButtons;
+  shown_.pump();
+  EXPECT_NE(GetWindowLongW(window, GWL_STYLE) & HDS_BUTTONS, 0);
+  header.style = 0;
+  shown_.pump();
+  EXPECT_EQ(GetWindowLongW(window, GWL_STYLE) & HDS_BUTTONS, 0);
+}
+
+TEST_F(WindowList, AKeptRowThatComesOrGoesLeavesThePlaceThatIsSeen) {
+  shown_.open("Form52");
+  auto& list = dynamic_cast<ListBox&>(shown_.control("Form52", "List2"));
+  const HWND window = shown_.window("Form52", "List2");
+  for (int i = 0; i < 200; ++i) list.add("row " + std::to_string(i));
+  shown_.pump();
+  SendMessageW(window, LB_SETTOPINDEX, 90, 0);
+  SendMessageW(window, LB_SETCARETINDEX, 95, FALSE);
+  list.add("one more");
+  shown_.pump();
+  EXPECT_EQ(SendMessageW(window, LB_GETTOPINDEX, 0, 0), 90);
+  EXPECT_EQ(SendMessageW(window, LB_GETCARETINDEX, 0, 0), 95);
+  list.rows.erase(list.rows.begin() + 3, list.rows.end());
+  shown_.pump();
+  EXPECT_EQ(SendMessageW(window, LB_GETCOUNT, 0, 0), 3);
+  EXPECT_EQ(SendMessageW(window, LB_GETCARETINDEX, 0, 0), 2);
+}
+
 TEST_F(WindowList, AMillionRowsStayFluent) {
   constexpr std::size_t kRows = 1'000'000;
   constexpr double kFluent = 50;  // ms

@@ -79,10 +79,13 @@ TEST_F(WindowShadow, IsOneHoweverOftenItIsAttached) {
 
 TEST_F(WindowShadow, IsDetachedOnce) {
   EXPECT_FALSE(detachShadow(form_.handle()));
+  const LONG_PTR procedure = GetWindowLongPtrW(form_.handle(), GWLP_WNDPROC);
   attachShadow(form_.handle());
+  EXPECT_NE(GetWindowLongPtrW(form_.handle(), GWLP_WNDPROC), procedure);
   const HWND before = shadow();
   EXPECT_TRUE(detachShadow(form_.handle()));
   EXPECT_EQ(shadow(), nullptr);
+  EXPECT_EQ(GetWindowLongPtrW(form_.handle(), GWLP_WNDPROC), procedure);
   EXPECT_FALSE(IsWindow(before));
   EXPECT_FALSE(detachShadow(form_.handle()));
   EXPECT_EQ(shadowsThatExist(), 0);
@@ -168,6 +171,7 @@ TEST_F(WindowShadow, TakesNoMouse) {
   attachShadow(form_.handle());
   const RECT place = form_.rect();
   EXPECT_NE(WindowFromPoint({place.left + 50, place.top + 50}), shadow());
+  EXPECT_NE(WindowFromPoint({place.left - 5, place.top + 50}), shadow());
 }
 
 TEST(WindowShadowOfTheProgram, OfAFormThatIsHiddenIsNotSeen) {

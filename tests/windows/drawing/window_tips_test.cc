@@ -121,6 +121,13 @@ TEST_F(WindowTips, ACommandTellsMoreThanItsCaption) {
   expectTip(shown_.window("Form1", "cmd_view"), "View the erase log");
 }
 
+TEST_F(WindowTips, AButtonOfTheFormTellsWhatItDoesOnceTheMouseIsOverIt) {
+  shown_.program().form.txtlang.setText("english.ini");
+  const HWND button = shown_.window("Form1", "chameleonButton11");
+  ASSERT_EQ(askedOf(button), "");
+  expectTip(button, "Close the program");
+}
+
 TEST_F(WindowTips, TheTextIsTheOneThatTheControlHasNow) {
   const HWND command = shown_.window("Form1", "cmd_option");
   shown_.control("Form1", "cmd_option").tool_tip = "one";

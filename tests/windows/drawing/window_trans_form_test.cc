@@ -207,15 +207,54 @@ TEST_F(WindowTransForm, StoresItsPropertiesUnderTheirNames) {
   one.AutoDrag = false;
   PropertyBag bag;
   one.writeProperties(bag);
-  EXPECT_EQ(bag.size(), 3U);
+  EXPECT_EQ(
+      bag, (PropertyBag{{"MaskColor", "1193046"}, {"Transparent", "True"}, {"AutoDrag", "False"}}));
   TransForm other(form_.handle(), dialogs_);
   other.readProperties(bag);
-  EXPECT_EQ(other.MaskColor, 0x123456U);
+  EXPECT_EQ(other.MaskColor, 0x123456);
   EXPECT_FALSE(other.AutoDrag);
   EXPECT_TRUE(other.Transparent);
   bag = {{"Transparent", bag["AutoDrag"]}};
   other.readProperties(bag);
   EXPECT_FALSE(other.Transparent);
+  // A colour of the system is stored as such, whatever it is at the moment.
+  one.MaskColor = static_cast<std::int32_t>(0x8000000F);
+  one.writeProperties(bag);
+  other.readProperties(bag);
+  EXPECT_EQ(other.MaskColor, one.MaskColor);
+}
+
+// Chosen by the keys, as a person does it; what is chosen goes the system's way.
+TEST_F(WindowTransForm, TheWindowsOwnMenuOpensAndItsChoiceIsACommand) {
+  TestWindow form({300, 200}, true);
+  form.show();
+  constexpr WPARAM kOwn = 0x100;
+  AppendMenuW(GetSystemMenu(form.handle(), FALSE), MF_STRING, kOwn, L"The last entry");
+  HMENU opened = nullptr;
+  std::vector<WPARAM> commands;
+  form.onMessage = [&](UINT message, WPARAM wparam, LPARAM) -> std::optional<LRESULT> {
+    if (message == WM_INITMENUPOPUP) {
+      opened = reinterpret_cast<HMENU>(wparam);
+      PostMessageW(form.handle(), WM_KEYDOWN, VK_UP, 0);
+      PostMessageW(form.handle(), WM_KEYDOWN, VK_RETURN, 0);
+    }
+    if (message != WM_SYSCOMMAND) return std::nullopt;
+    commands.push_back(wparam);
+    return 0;
+  };
+  TransForm one(form.handle(), dialogs_);
+  one.PopupSysMenu();
+  EXPECT_EQ(opened, nullptr) << "not loaded yet";
+  one.load();
+  one.PopupSysMenu();
+  pump();
+  EXPECT_EQ(opened, GetSystemMenu(form.handle(), FALSE));
+  EXPECT_EQ(commands, (std::vector<WPARAM>{kOwn}));
+  TransForm second(form.handle(), dialogs_);
+  second.load();
+  opened = nullptr;
+  one.PopupSysMenu();
+  EXPECT_EQ(opened, nullptr) << "two stand on the form";
 }
 
 // The loop of the move itself is the system's.

@@ -60,7 +60,7 @@ constexpr Road kRoads[] = {
 INSTANTIATE_TEST_SUITE_P(Roads, Dialog, ::testing::ValuesIn(kRoads));
 
 // No control leads to it any more.
-TEST_F(WindowTest, TheNoteOfABrowserNamesItAndIsNotShownAgain) {
+TEST_F(WindowTest, TheNoteOfABrowserNamesItAndStoresItsBox) {
   const DrivenProgram note("Form4", L"form_alone.exe");
   ASSERT_TRUE(note.comesUp("Form4.command2"));
   EXPECT_EQ(note.text("Form4.Label1"),
@@ -71,6 +71,16 @@ TEST_F(WindowTest, TheNoteOfABrowserNamesItAndIsNotShownAgain) {
   EXPECT_TRUE(note.checked("Form4.Check1"));
   note.click("Form4.command2");
   EXPECT_TRUE(note.goes("Form4"));
+}
+
+TEST_F(WindowTest, TheNoteOfABrowserIsLeftByTheKeyboardToo) {
+  for (const int with : {0, VK_MENU}) {
+    const DrivenProgram note("Form4", L"form_alone.exe");
+    ASSERT_TRUE(note.comesUp("Form4.command2"));
+    EXPECT_TRUE(note.comesToFront("Form4"));
+    pressKey(with == 0 ? VK_ESCAPE : VK_F4, with);
+    EXPECT_TRUE(note.goes("Form4")) << with;
+  }
 }
 
 TEST_F(WindowTest, AToolTellsItsNameUnderTheMouse) {
@@ -137,6 +147,27 @@ TEST_F(Settings, TheButtonsTickAllNoneAndTheRecommended) {
   EXPECT_TRUE(comes([this] { return box(52) == "1" && box(44) == "0" && box(49) == "0"; }));
   program().click("Form2.chameleonButton28");
   EXPECT_TRUE(comes([this] { return box(52) == "0"; }));
+}
+
+TEST_F(Settings, TheSignsOfTheWindowsPanelLeaveItsLastTwoBoxes) {
+  open();
+  program().click("Form2.chameleonButton30");
+  EXPECT_TRUE(program().comesUp("Form2.Check1(53)"));
+  program().click("Form2.Check1(54)");
+  EXPECT_TRUE(comes([this] { return box(54) == "1"; }));
+  program().click("Form2.chameleonButton17");
+  EXPECT_TRUE(comes([this] { return box(13) == "1"; }));
+  EXPECT_FALSE(program().checked("Form2.Check1(53)"));
+  program().click("Form2.chameleonButton18");
+  EXPECT_TRUE(comes([this] { return box(13) == "0"; }));
+  EXPECT_TRUE(program().checked("Form2.Check1(54)"));
+}
+
+TEST_F(Settings, AClickOnAHeadingTogglesNothing) {
+  open();
+  program().click("Form2.Label2(6)");
+  Sleep(300);
+  for (int number = 0; number <= 54; ++number) EXPECT_NE(box(number), "1") << number;
 }
 
 TEST_F(Settings, EachPanelTakesThePlaceOfTheOther) {

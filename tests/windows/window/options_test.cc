@@ -42,6 +42,23 @@ TEST_F(Options, StealthAndItsKeyAreStored) {
   EXPECT_TRUE(comes([] { return setting(settings::kMainKey, "key") == "K"; }));
 }
 
+TEST_F(Options, LeftByTheKeyboardNothingOfThemIsSaved) {
+  for (const int with : {0, VK_MENU}) {
+    openSchedule();
+    program().click("Form3.Option2");
+    EXPECT_TRUE(comes([this] { return program().checked("Form3.Option2"); }));
+    EXPECT_TRUE(program().comesToFront("Form3"));
+    pressKey(with == 0 ? VK_ESCAPE : VK_F4, with);
+    EXPECT_TRUE(program().goes("Form3"));
+    Sleep(300);
+    for (const char* name : {"option", "value", "nextday"}) {
+      EXPECT_EQ(setting(settings::kTimerKey, name), "") << name;
+    }
+    EXPECT_EQ(setting(settings::kMainKey, "homepage"), "");
+    end();
+  }
+}
+
 TEST_F(Options, ALetterIsChosenFromTheList) {
   open();
   const HWND letters = program().window("Form3.Combo2");

@@ -99,6 +99,19 @@ TEST_F(Places, TheKeepListStandsOverTheMiddleOfTheSettings) {
   EXPECT_NEAR(list.top + list.bottom, settings.top + settings.bottom, 2);
 }
 
+// With the strip that their windows have above the form.
+TEST_F(Places, TheSmallDialogsStandOnTopInTheMiddleOfTheScreen) {
+  for (const std::string_view form : {"frmmsg", "Form4"}) {
+    shown_.open(form);
+    rest();
+    const RECT place = placeOf(form);
+    EXPECT_NEAR(place.left + place.right, GetSystemMetrics(SM_CXSCREEN), 2) << form;
+    EXPECT_NEAR(place.top + place.bottom, GetSystemMetrics(SM_CYSCREEN), 2) << form;
+    // The note of a browser puts the message form on top, and not itself.
+    EXPECT_EQ(staysOnTop(form), form == "frmmsg") << form;
+  }
+}
+
 TEST_F(Places, WhatClosesAboveTheSettingsGivesThemTheKeyboardBack) {
   ASSERT_FALSE(IsWindowEnabled(window("Form1")));
   openKeepList();

@@ -1,5 +1,11 @@
 // The panel of the plug-ins.
+#include <windows.h>
+// Behind windows.h.
+#include <dlgs.h>
+
 #include <gmock/gmock.h>
+
+#include "platform/win32/wide.h"
 
 #include "tests/windows/window/window_test.h"
 
@@ -34,6 +40,18 @@ class PlugIns : public WindowTest {
   }
   void clickBox(int row) {
     clickAt(program().window("Form2.View1"), list("Form2.View1").onBox(row));
+  }
+  // Of a control of a dialog of the system, wherever it stands in it.
+  static std::string textOf(HWND dialog, int id) {
+    HWND at = nullptr;
+    while ((at = FindWindowExW(dialog, at, nullptr, nullptr)) != nullptr) {
+      const HWND control = GetDlgCtrlID(at) == id ? at : GetDlgItem(at, id);
+      if (control == nullptr) continue;
+      wchar_t text[64] = L"";
+      SendMessageW(control, WM_GETTEXT, 64, reinterpret_cast<LPARAM>(text));
+      return win32::narrow(text);
+    }
+    return "<none>";
   }
   static bool chosen(std::string_view names) {
     return comes([&] { return contents("slectplg.cln") == names; });
@@ -86,6 +104,31 @@ TEST_F(PlugIns, AllAreTickedAndNone) {
   EXPECT_TRUE(chosen(""));
 }
 
+// The information is that of the row that is marked, however it was marked.
+TEST_F(PlugIns, ARowIsMarkedByTheArrowsAndByAPressThatIsDragged) {
+  write("plugins\\beta.tv", "Viewer\r\nAn author\r\nForgets what was seen\r\n");
+  open();
+  const auto told = [this] {
+    program().click("Form2.chameleonButton10");
+    EXPECT_TRUE(program().comesUp("frmmsg"));
+    const std::string heading = program().text("frmmsg.Text1");
+    program().click("frmmsg.command2");
+    EXPECT_TRUE(program().goes("frmmsg"));
+    return heading;
+  };
+  clickRow(0);
+  EXPECT_THAT(told(), HasSubstr("Forgets what was played"));
+  SetForegroundWindow(program().form("Form2"));
+  clickRow(0);
+  pressKey(VK_DOWN);
+  EXPECT_THAT(told(), HasSubstr("Forgets what was seen"));
+  const HWND view = program().window("Form2.View1");
+  POINT from = list("Form2.View1").onText(0);
+  ClientToScreen(view, &from);
+  dragMouse(from, {from.x + 40, from.y});
+  EXPECT_THAT(told(), HasSubstr("Forgets what was played"));
+}
+
 TEST_F(PlugIns, TheSelectedOneIsDeletedWhenThePersonAgrees) {
   open();
   clickRow(0);
@@ -136,6 +179,8 @@ TEST_F(PlugIns, TheFileDialogMayBeLeft) {
   const HWND dialog = program().waitForBox();
   ASSERT_NE(dialog, nullptr);
   EXPECT_TRUE(comes([&] { return GetForegroundWindow() == dialog; }));
+  EXPECT_EQ(textOf(dialog, cmb1), "*.tv") << "the kind of files";
+  EXPECT_EQ(textOf(dialog, cmb13), "*.tv") << "the name";
   pressKey(VK_ESCAPE);
   EXPECT_TRUE(comes([&] { return !IsWindow(dialog); }));
   EXPECT_THAT(rows(), ElementsAre("alpha", "beta"));

@@ -1,6 +1,9 @@
 // Test, Erase, Stop and the log, pressed as a person presses them.
 #include <gmock/gmock.h>
 
+#include <cstdlib>
+#include <memory>
+
 #include "platform/win32/wide.h"
 #include "services/settings_keys.h"
 #include "tests/windows/window/task_bar.h"
@@ -13,6 +16,7 @@ using ::testing::Contains;
 using ::testing::HasSubstr;
 
 constexpr int kSessions = 44;
+constexpr int kTemporaryFiles = 10;
 constexpr int kChromeRow = 2;
 constexpr int kStatus = 1;
 constexpr std::uint32_t kRun = 60000;   // ms
@@ -22,6 +26,12 @@ constexpr int kManyFiles = 100000;
 std::string localAppData() {
   wchar_t folder[MAX_PATH] = L"";
   GetEnvironmentVariableW(L"LOCALAPPDATA", folder, MAX_PATH);
+  return win32::narrow(folder);
+}
+
+std::string temporaryFolder() {
+  wchar_t folder[MAX_PATH] = L"";
+  GetTempPathW(MAX_PATH, folder);
   return win32::narrow(folder);
 }
 
@@ -109,6 +119,88 @@ TEST_F(Run, TotalsAndProgressMoveDuringARun) {
   EXPECT_TRUE(comes([&] { return list("Form1.View200").rows() > before; }, kRun));
   EXPECT_EQ(status(kChromeRow), "Test Erasing");
   EXPECT_TRUE(program().enabled("Form1.cmd_stop"));
+}
+
+// The totals come behind each group: those of Windows while a browser's is at work.
+TEST_F(Run, TheFiguresOfWhatIsDoneAreShownAndKeptWhileTheRunGoesOn) {
+  const std::string folder = temporaryFolder();
+  write(folder + "one.tmp", std::string(2048, 'x'));
+  write(folder + "two.tmp", "x");
+  select(kTemporaryFiles);
+  plant(30000);
+  start();
+  program().click("Form1.cmd_start");
+  EXPECT_TRUE(comes([this] { return list("Form1.View200").rows() > 1000; }, kRun));
+  ASSERT_TRUE(program().enabled("Form1.cmd_stop"));
+  const int files = std::atoi(program().text("Form1.Label4").c_str());
+  EXPECT_GE(files, 2);
+  EXPECT_THAT(program().text("Form1.Label6"), HasSubstr(" KB"));
+  EXPECT_TRUE(comes([&] { return setting(settings::kLiveKey, "tracks-file-count") != ""; }));
+  EXPECT_GE(std::atoi(setting(settings::kLiveKey, "tracks-file-count").c_str()), files);
+  EXPECT_NE(setting(settings::kLiveKey, "tracks-size-count"), "");
+  EXPECT_NE(setting(settings::kLiveKey, "tracks-reg-count"), "");
+  ASSERT_TRUE(program().enabled("Form1.cmd_stop")) << "still at work";
+  program().click("Form1.cmd_stop");
+  EXPECT_TRUE(finished());
+}
+
+TEST_F(Run, TheToolbarErasesStopsAndShowsTheLog) {
+  plant(30000);
+  start();
+  program().click("Form1.Toolbar1(8)");
+  EXPECT_TRUE(comes([this] { return list("Form1.View200").rows() > 100; }, kRun));
+  EXPECT_TRUE(program().enabled("Form1.Toolbar1(10)"));
+  program().click("Form1.Toolbar1(10)");
+  EXPECT_TRUE(comes([this] { return !program().enabled("Form1.Toolbar1(10)"); }));
+  EXPECT_TRUE(comes([] { return exists("eraselog.txt"); }, kRun));
+  EXPECT_TRUE(exists(session(0)) || exists(session(29999)) || exists(session(15000)));
+}
+
+// A browser that runs, as far as its name goes.
+class RunningBrowser : public Run {
+ protected:
+  void SetUp() override {
+    Run::SetUp();
+    ASSERT_TRUE(CopyFileW(place("form_alone.exe").c_str(), file_.c_str(), FALSE));
+    browser_ = std::make_unique<DrivenProgram>("Form4", L"chrome.exe");
+    ASSERT_TRUE(browser_->comesUp("Form4.command2"));
+    plant(2);
+  }
+  void TearDown() override {
+    browser_.reset();
+    Run::TearDown();
+    EXPECT_TRUE(comes([this] { return DeleteFileW(file_.c_str()) != FALSE; }));
+  }
+  void eraseAndAnswer(int button) {
+    start();
+    program().click("Form1.cmd_start");
+    const HWND box = program().waitForBox(kRun);
+    ASSERT_NE(box, nullptr);
+    EXPECT_THAT(DrivenProgram::textOfBox(box), HasSubstr("Google chrome is running"));
+    wchar_t title[32] = L"";
+    GetWindowTextW(box, title, 32);
+    EXPECT_STREQ(title, L"confirmation");
+    EXPECT_FALSE(IsWindowEnabled(program().form("Form1")));
+    DrivenProgram::answer(box, button);
+    EXPECT_TRUE(finished());
+  }
+
+  std::unique_ptr<DrivenProgram> browser_;
+
+ private:
+  const std::wstring file_ = place("chrome.exe");
+};
+
+TEST_F(RunningBrowser, IsEndedWhenThePersonAgreesAndItsTracksGo) {
+  eraseAndAnswer(IDYES);
+  EXPECT_EQ(browser_->waitForEnd(), 0U);
+  EXPECT_FALSE(exists(session(0)));
+}
+
+TEST_F(RunningBrowser, StaysWithItsTracksWhenThePersonDoesNot) {
+  eraseAndAnswer(IDNO);
+  EXPECT_TRUE(browser_->running());
+  EXPECT_TRUE(exists(session(0)));
 }
 
 TEST_F(Run, TheWindowGoesToTheTrayAndComesBackDuringARun) {

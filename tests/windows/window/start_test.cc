@@ -57,6 +57,15 @@ TEST_F(Start, TheSettingsAloneAreShownForTheirArgument) {
   EXPECT_EQ(program().waitForEnd(), 0U);
 }
 
+// Nothing would be left of a program whose only window has gone.
+TEST_F(Start, TheSettingsAloneEndTheProgramByTheKeyboardToo) {
+  start("d");
+  EXPECT_TRUE(program().comesUp("Form2"));
+  EXPECT_TRUE(program().comesToFront("Form2"));
+  pressKey(VK_ESCAPE);
+  EXPECT_EQ(program().waitForEnd(), 0U);
+}
+
 // Wine's registry provider does not answer the question for another colour.
 TEST_F(Start, TheStripHasTheColourOfTheDesign) {
   start();

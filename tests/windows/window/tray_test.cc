@@ -226,6 +226,25 @@ TEST_F(Stealth, MinimisingShowsNoIcon) {
   EXPECT_FALSE(bar.showsIcon(500));
 }
 
+// There is no way back but a start without stealth.
+TEST_F(Stealth, WithoutAKeyTheWindowIsGoneUntilAStartWithoutStealth) {
+  set(settings::kMainKey, "key", "");
+  start();
+  minimise();
+  EXPECT_FALSE(bar.showsIcon(500));
+  pressKey('S', VK_MENU);
+  Sleep(500);
+  EXPECT_TRUE(program().running());
+  EXPECT_FALSE(program().sees("Form1"));
+  end();
+  set(settings::kOptionsKey, "5", "0");
+  start();
+  minimise();
+  EXPECT_TRUE(bar.showsIcon());
+  bar.mouse(WM_LBUTTONDOWN);
+  EXPECT_TRUE(program().comesUp("Form1"));
+}
+
 TEST_F(Stealth, TheHotKeyHidesTheWindowAndBringsItBack) {
   start();
   EXPECT_TRUE(program().comesToFront("Form1"));
