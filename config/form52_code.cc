@@ -49,7 +49,7 @@ void selectAll(ListBox& list) {
 }  // namespace
 
 Form52Code::Form52Code(FormContext& context)
-    : form(context.machine.files),
+    : form(context.machine.events, context.machine.files),
       context_(context),
       enumerator_(context.machine, no_list12_, no_list20_, form.Text2) {
   form.Text1.onChange = [this] { Text1_Change(); };

@@ -126,7 +126,7 @@ void Language::apply(Form& form) {
   file_name = "tavrwipe-" + lang + ".lang";
   const std::string path = programFile(machine_, "lang\\" + file_name);
   if (on.met([&] { return Dir(machine_, path).empty(); })) return;
-  shown = lang;
+  form.language = lang;
   const ControlFont font = captionFont(registry_, langcode);
   const std::span<const std::string_view> keys = languageKeys(form.name());
   for (const std::string_view key : keys) {

@@ -28,10 +28,10 @@ class Language {
   std::string lang;       ///< code of the language, "de"
   int langindex = 0;      ///< row of the picker
   std::string file_name;  ///< "tavrwipe-de.lang"
-  std::string shown;  ///< what the captions are in: of the last code that had a file, "" for none
 
   /// ApplyLanguage of a form: reads the choice and writes the captions of its
-  /// controls. Without a file for the language the captions stay as they are.
+  /// controls. Without a file for the language the captions stay as they are, and
+  /// so does the language that the form is in.
   void apply(Form& form);
 
  private:

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -24,7 +25,9 @@ class ChameleonButton : public Button {
   static constexpr std::uint32_t kOverTimerInterval = 50;  ///< ms
   static constexpr int kNormal = 0;                        ///< states to draw
   static constexpr int kPressed = 2;
-  static constexpr std::int32_t kOfScheme = -1;  ///< no colour of its own; 0 is black
+  /// No colour of its own, in a number that no colour has: 0 is black, and what is
+  /// below 0 a colour of the system.
+  static constexpr std::int32_t kOfScheme = std::numeric_limits<std::int32_t>::min() + 0xFFFFFF;
 
   enum class State : std::uint8_t { kNormal, kOver, kPressed };
 

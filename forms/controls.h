@@ -176,7 +176,12 @@ class ListBox : public Control {
   };
   std::vector<Row> rows;
 
-  void clear() { rows.clear(); }
+  void clear() {
+    rows.clear();
+    ++clearings_;
+  }
+  /// How often it was cleared: what is filled in behind that begins at its top.
+  std::size_t clearings() const { return clearings_; }
   void add(std::string_view text) { rows.push_back({std::string(untilNul(text)), false}); }
   int count() const { return static_cast<int>(rows.size()); }
   std::string list(int index) const {
@@ -186,6 +191,9 @@ class ListBox : public Control {
   std::string shown() const override { return std::to_string(count()); }
 
   std::function<void()> onDoubleClick;
+
+ private:
+  std::size_t clearings_ = 0;
 };
 
 /// A timer of a form. Enabling starts it anew; its handler runs inside the

@@ -33,6 +33,7 @@ class Form {
   WindowState window_state = WindowState::kNormal;
   std::int32_t back_color = 0;
   bool has_look_color = false;  ///< the person's look gave the form its colour
+  std::string language;         ///< that its captions are in; "" for those of the design
   int shown_again = 0;          ///< grows with every showing of a form that is open already
 
   /// For a form that steps aside for a moment: told at once, as nobody sees a value

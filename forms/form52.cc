@@ -35,7 +35,12 @@ constexpr ControlDesign kDesign[] = {
 
 std::span<const ControlDesign> form52Design() { return kDesign; }
 
-Form52::Form52(Files& files) : Form("Form52", "Keep List", 856, 496), Dir1(files), File1(files) {
+Form52::Form52(Events& events, Files& files)
+    : Form("Form52", "Keep List", 856, 496),
+      Dir1(files),
+      File1(files),
+      chameleonButton1(events),
+      chameleonButton2(events) {
   place(kDesign, "Label1", 16, Label1_16);
   place(kDesign, "Label1", 1, Label1_1);
   place(kDesign, "Label1", 0, Label1_0);

@@ -4,6 +4,7 @@
 
 #include <span>
 
+#include "forms/chameleon_button.h"
 #include "forms/controls.h"
 #include "forms/file_boxes.h"
 #include "forms/form.h"
@@ -15,7 +16,7 @@ namespace tavr {
 std::span<const ControlDesign> form52Design();
 
 struct Form52 : Form {
-  explicit Form52(Files& files);
+  Form52(Events& events, Files& files);
 
   TextBox Text1;  ///< mode: "1" cookies, "2" location bar history
   TextBox Text2;  ///< value names, a comma before each but the first
@@ -30,8 +31,8 @@ struct Form52 : Form {
   Button keepbutton2, keepbutton3;   ///< add, delete
   Button keepbutton11;               ///< refresh
   Button keepbutton7, keepbutton10;  ///< OK, cancel
-  Button chameleonButton1;           ///< all rows of List1
-  Button chameleonButton2;           ///< all rows of List2
+  ChameleonButton chameleonButton1;  ///< all rows of List1
+  ChameleonButton chameleonButton2;  ///< all rows of List2
   Button Command1, command2;         ///< fill List1 with cookies, with addresses
   Button Command3;                   ///< a leftover without effect
 };

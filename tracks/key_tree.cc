@@ -16,10 +16,12 @@ void fDeleteSubkeys(Registry& registry, Root root, const std::string& path) {
   // All names first: deleting would move the index under the walk.
   std::vector<std::string> names;
   std::string name;
-  for (std::uint32_t i = 0; opened.key->enumKey(i, name) == kSuccess; ++i)
+  for (std::uint32_t i = 0; opened.key->enumKey(i, name) == kSuccess; ++i) {
     names.emplace_back(untilNul(name));
+  }
   for (const std::string& subkey : names) {
-    fDeleteSubkeys(registry, root, path + "\\" + subkey);
+    // A name that begins with a NUL would lead to this key again.
+    if (!subkey.empty()) fDeleteSubkeys(registry, root, path + "\\" + subkey);
     opened.key->deleteKey(subkey);
   }
 }

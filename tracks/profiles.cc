@@ -25,6 +25,8 @@ void forEachProfile(TrackContext& context, const ProfileKey& browser, const Prof
   const std::string user_data = userProfile(context) + std::string(browser.user_data);
   const int count = context.form.List12.count();
   for (int i = 0; i < count; ++i) {
+    // One name for all that is looked for in it: a run that starts in a pump may leave
+    // the list empty, and an empty name would be the folder of every profile.
     visit(user_data + context.form.List12.at(i));
   }
 }

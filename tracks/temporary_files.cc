@@ -20,7 +20,7 @@ constexpr std::uint32_t kArchive = 32;
 // work on a file that is gone. `value` is the procedure's one text: a read that
 // meets a number appends to it, and what the last read leaves decides about the
 // rows behind this one.
-void overwriteAndKill(TrackContext& context, int row, const std::string& rounds,
+void overwriteAndKill(TrackContext& context, const std::string& file, const std::string& rounds,
                       std::string& value) {
   ResumeNext on;
   double k = 1;
@@ -33,11 +33,11 @@ void overwriteAndKill(TrackContext& context, int row, const std::string& rounds,
       double m = 1;
       do {
         context.machine.events.doEvents();
-        context.deletion.fOverwriteFile(context.form.List20.at(row));
+        context.deletion.fOverwriteFile(file);
         m += 1;
       } while (m <= Val(value));
     }
-    on.next([&] { Kill(context.machine, context.form.List20.at(row)); });
+    on.next([&] { Kill(context.machine, file); });
     k += 1;
   } while (k <= Val(rounds));
 }
@@ -71,10 +71,12 @@ void c8(TrackContext& context, const Procedure& self) {
   int i = 0;
   do {
     context.machine.events.doEvents();
+    // Under this name to its end: a run that starts in a pump fills the list anew,
+    // also with names that are no files.
     const std::string file = form.List20.at(i);
     total += reportRow(context, file, self.rows[0], {mesg, file}, properties);
-    if (Val(value) == 1) overwriteAndKill(context, i, rounds, value);
-    form.List13.add("Removing : " + form.List20.at(i));
+    if (Val(value) == 1) overwriteAndKill(context, file, rounds, value);
+    form.List13.add("Removing : " + file);
     context.cache.fDeleteCacheEntry(form.List21.at(i));
     ++i;
     form.trackcount += 1;

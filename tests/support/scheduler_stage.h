@@ -30,11 +30,13 @@ class Person : public Dialogs {
   };
   int messageBox(std::string_view text, std::uint32_t flags, std::string_view title) override {
     boxes.push_back({std::string(text), flags, std::string(title)});
+    if (onBox) onBox();
     return answer;
   }
   void beep() override {}
 
   int answer = kAnswerYes;
+  std::function<void()> onBox;  ///< while a box is open
   std::vector<Box> boxes;
 };
 

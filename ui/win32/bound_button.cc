@@ -107,7 +107,8 @@ void BoundButton::onMove(bool any_button_down) {
     return;
   }
   chameleon_->pointer_inside = hovered_;
-  postMove([this, any_button_down] { chameleon_->mouseMove(any_button_down); });
+  any_button_down_ = any_button_down;  // as the last of the moves that wait has it
+  postMove([this] { chameleon_->mouseMove(any_button_down_); });
 }
 
 void BoundButton::onLeave() {

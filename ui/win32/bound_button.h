@@ -32,6 +32,7 @@ class BoundButton : public DrawnControl {
 
   Button& button_;
   ChameleonButton* chameleon_;  ///< the same, null for a plain button
+  bool any_button_down_ = false;
 };
 
 }  // namespace tavr::win32

@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/win32/wide.h"
 #include "ui/win32/form_window.h"
@@ -16,20 +17,11 @@ BoundListBox::BoundListBox(FormWindow& form, ListBox& list)
          direction);
 }
 
-// The place that a person scrolled to, and the row that the arrows start from, stay.
 void BoundListBox::showRows() {
-  const LRESULT top = SendMessageW(window_, LB_GETTOPINDEX, 0, 0);
-  const LRESULT caret = SendMessageW(window_, LB_GETCARETINDEX, 0, 0);
-  SendMessageW(window_, WM_SETREDRAW, FALSE, 0);
   SendMessageW(window_, LB_RESETCONTENT, 0, 0);
   for (const ListBox::Row& row : list_.rows) {
     SendMessageW(window_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(wide(row.text).c_str()));
   }
-  const auto last = static_cast<LRESULT>(list_.rows.size()) - 1;
-  SendMessageW(window_, LB_SETTOPINDEX, std::min(top, last), 0);
-  if (caret >= 0 && last >= 0) SendMessageW(window_, LB_SETCARETINDEX, std::min(caret, last), 0);
-  SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
-  InvalidateRect(window_, nullptr, TRUE);
 }
 
 void BoundListBox::showSelection() {
@@ -46,10 +38,21 @@ void BoundListBox::syncOwn() {
   const bool same =
       same_texts &&
       std::ranges::equal(shown_, list_.rows, {}, &ListBox::Row::selected, &ListBox::Row::selected);
-  if (same) return;
+  const bool anew = list_.clearings() != std::exchange(clearings_, list_.clearings());
+  if (same && !anew) return;
+  const LRESULT top = anew ? 0 : SendMessageW(window_, LB_GETTOPINDEX, 0, 0);
+  const LRESULT caret = anew ? 0 : SendMessageW(window_, LB_GETCARETINDEX, 0, 0);
+  SendMessageW(window_, WM_SETREDRAW, FALSE, 0);
   if (!same_texts) showRows();
   shown_ = list_.rows;
   showSelection();
+  // The place that a person scrolled to and the row that the arrows start from stay.
+  // The place last: rows that are selected and the caret come in sight.
+  const auto last = static_cast<LRESULT>(list_.rows.size()) - 1;
+  if (last >= 0) SendMessageW(window_, LB_SETCARETINDEX, std::clamp<LRESULT>(caret, 0, last), 0);
+  SendMessageW(window_, LB_SETTOPINDEX, std::max<LRESULT>(std::min(top, last), 0), 0);
+  SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
+  InvalidateRect(window_, nullptr, TRUE);
 }
 
 void BoundListBox::takeSelection() {

@@ -24,6 +24,7 @@ class BoundListBox : public BoundControl {
 
   ListBox& list_;
   std::vector<ListBox::Row> shown_;
+  std::size_t clearings_ = 0;
 };
 
 }  // namespace tavr::win32

@@ -154,9 +154,11 @@ void drawFace(Canvas& canvas, const ButtonFace& face, const DrawnState& state,
   if (face.edge) canvas.strokeRound(area, face.radius, face.edge_width, *face.edge);
 }
 
-void drawFocus(Canvas& canvas, const RECT& box, double radius, COLORREF color) {
+void drawFocus(Canvas& canvas, const RECT& box, double radius, COLORREF color,
+               const Palette& palette) {
   const RECT line = inset(box, canvas.px(kFocusInset));
-  canvas.strokeRound(line, std::max(0.0, radius - kFocusInset), 1.5, color, 0.85);
+  canvas.strokeRound(line, std::max(0.0, radius - kFocusInset), 1.5, color,
+                     palette.high_contrast ? 1 : 0.85);
 }
 
 }  // namespace tavr::win32

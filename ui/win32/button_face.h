@@ -29,7 +29,8 @@ ButtonFace faceOf(ButtonRole role, const DrawnState& state, const Palette& palet
 void drawFace(Canvas& canvas, const ButtonFace& face, const DrawnState& state,
               const Palette& palette);
 /// The line that shows the focus, inside the edge.
-void drawFocus(Canvas& canvas, const RECT& box, double radius, COLORREF color);
+void drawFocus(Canvas& canvas, const RECT& box, double radius, COLORREF color,
+               const Palette& palette);
 
 /// Where the picture stands beside the caption.
 enum class PicturePlace : int { kStart, kEnd, kAbove, kBelow };

@@ -61,12 +61,12 @@ void gloss(Canvas& canvas, const StyleInk& ink) {
 void outline(Canvas& canvas, const StyleInk& ink) {
   if (ink.hovered || ink.pressed) canvas.fillRound(canvas.area(), 6, ink.ground);
   canvas.strokeRound(canvas.area(), 6, ink.pressed ? 2 : 1, ink.edge);
-  canvas.strokeRound(canvas.area(), 6, ink.pressed ? 2 : 1, ink.accent, 0.85);
+  canvas.strokeRound(canvas.area(), 6, ink.pressed ? 2 : 1, ink.accent, ink.flat ? 1 : 0.85);
 }
 
 void pill(Canvas& canvas, const StyleInk& ink) {
   canvas.fillRound(canvas.area(), kPill, ink.ground);
-  canvas.strokeRound(canvas.area(), kPill, 1, ink.edge, 0.6);
+  canvas.strokeRound(canvas.area(), kPill, 1, ink.edge, ink.flat ? 1 : 0.6);
 }
 
 void bare(Canvas& canvas, const StyleInk& ink) {

@@ -22,11 +22,11 @@ void drawButton(HDC dc, const RECT& area, const Control& button, ButtonRole role
   ButtonContent content;
   content.picture = state.icon;
   content.picture_alone = face.icon_alone;
-  content.grey = !state.enabled;
+  content.grey = !state.enabled && !palette.high_contrast;
   content.caption = {face.text, face.side, face.bold};
   content.padding = face.padding;
   drawContent(canvas, button, content, state);
-  if (state.focused) drawFocus(canvas, area, face.radius, face.text);
+  if (state.focused) drawFocus(canvas, area, face.radius, face.text, palette);
 }
 
 SIZE buttonSize(HDC dc, const Control& button, ButtonRole role, const DrawnState& state) {

@@ -93,6 +93,9 @@ StyleInk systemInk(const StyleTraits& traits, const DrawnState& state, const Pal
   return ink;
 }
 
+// A ground grows darker when it is pressed; one that is as dark as that, lighter.
+COLORREF pressedToward(COLORREF ground) { return contrast(ground, kInk) < 2 ? kWhite : kInk; }
+
 StyleInk inkOf(const ChameleonButton& button, const Colors& colors, const DrawnState& state,
                const Palette& palette) {
   StyleInk ink;
@@ -104,7 +107,8 @@ StyleInk inkOf(const ChameleonButton& button, const Colors& colors, const DrawnS
   ink.accent = colors.accent;
   if (ink.pressed) {
     const bool light = contrast(ink.ground, kWhite) < contrast(ink.ground, kInk);
-    ink.ground = mix(ink.ground, light ? palette.accent : kInk, state.pressed ? 0.2 : 0.12);
+    ink.ground = mix(ink.ground, light ? palette.accent : pressedToward(ink.ground),
+                     state.pressed ? 0.2 : 0.12);
   }
   if (!state.enabled) {
     ink.ground = mix(greyOf(colors.ground), kWhite, 0.75);
@@ -129,7 +133,9 @@ ButtonContent contentOf(const ChameleonButton& button, const DrawnState& state,
     content.place = static_cast<PicturePlace>(button.picture_position);
   }
   if (button.use_mask_color) content.mask = fromControlColor(button.mask_color);
-  content.grey = button.use_greyscale || !state.enabled;
+  // A sign of the program's own takes the colour of its text, which is the system's.
+  const bool as_text = palette.high_contrast && hasIcon(content.picture);
+  content.grey = (button.use_greyscale || !state.enabled) && !as_text;
   if (!palette.high_contrast) content.effect = button.special_effect;  // it mixes colours
   return content;
 }
@@ -158,7 +164,7 @@ void drawStyled(Canvas& canvas, const ChameleonButton& button, const DrawnState&
   drawContent(body, button, content, state);
   if (state.focused && button.show_focus_rect) {
     const bool seen = contrast(ink.accent, ink.ground) >= kSeen;
-    drawFocus(body, body.area(), traits.radius, seen ? ink.accent : ink.text);
+    drawFocus(body, body.area(), traits.radius, seen ? ink.accent : ink.text, palette);
   }
 }
 
@@ -176,14 +182,16 @@ ButtonFace roleFace(const ChameleonButton& button, ButtonRole role, const DrawnS
   if (face.ground && (isSet(button.color) || isSet(button.hover_color) || scheme)) {
     face.text = readableOn(*face.ground);
   }
-  if (own.text != rest.text && (isSet(button.text_color) || scheme)) face.text = own.text;
+  if (isSet(button.text_color) || (scheme && own.text != rest.text)) face.text = own.text;
   if (touched && isSet(button.hover_text_color)) face.text = own.hover_text;
   // A hover colour that is the resting one would leave the hover unseen.
   if (touched && face.ground && (own.hover == own.ground || *face.ground == palette.accent)) {
     face.edge = mix(*face.ground, face.text, state.pressed ? 0.7 : 0.45);
   }
   const bool own_ground = isSet(button.color) || isSet(button.hover_color) || scheme;
-  if (own_ground && state.pressed && face.ground) face.ground = mix(*face.ground, kInk, 0.14);
+  if (own_ground && state.pressed && face.ground) {
+    face.ground = mix(*face.ground, pressedToward(*face.ground), 0.14);
+  }
   if (button.soft_bevel && face.edge) {
     face.edge = mix(*face.edge, face.ground.value_or(palette.window), 0.5);
   }
@@ -202,7 +210,7 @@ void drawByRole(Canvas& canvas, const ChameleonButton& button, ButtonRole role,
   content.padding = face.padding;
   drawContent(canvas, button, content, state);
   if (state.focused && button.show_focus_rect) {
-    drawFocus(canvas, canvas.area(), face.radius, face.text);
+    drawFocus(canvas, canvas.area(), face.radius, face.text, palette);
   }
 }
 

@@ -68,7 +68,7 @@ int drawListCell(HDC dc, const RECT& area, const DrawnCell& cell, HFONT font, bo
   SIZE size{};
   GetTextExtentPoint32W(dc, text.c_str(), length, &size);
   SelectObject(dc, before);
-  return size.cx;
+  return size.cx + (rest.left - area.left - px(kListPadding));
 }
 
 }  // namespace tavr::win32

@@ -26,7 +26,7 @@ struct DrawnCell {
 };
 
 /// Its ground is there already. `cut`: a text that is too long ends in dots.
-/// Answers the width of the whole text in pixels.
+/// Answers the width of the signs and the whole text in pixels.
 int drawListCell(HDC dc, const RECT& area, const DrawnCell& cell, HFONT font, bool cut,
                  double scale, const Palette& palette);
 

@@ -95,7 +95,7 @@ void drawFrame(HDC dc, const RECT& area, const Control& frame, const DrawnState&
 void drawProgressBar(HDC dc, const RECT& area, const ProgressBar& bar, const DrawnState& state,
                      const Palette& palette);
 /// The ground of the strip and the title on it, behind the program's sign. Of the
-/// font only the face and the character set are taken.
+/// font the face, the size and the character set are taken.
 void drawTitleStrip(HDC dc, const RECT& area, std::string_view title, const DrawnState& state,
                     const Palette& palette, const ControlFont& font = {});
 

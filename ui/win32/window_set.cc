@@ -1,6 +1,7 @@
 #include "ui/win32/window_set.h"
 
 #include "basic/resume_next.h"
+#include "config/language_keys.h"
 #include "engine/window.h"
 #include "forms/form2.h"
 #include "forms/form3.h"
@@ -52,7 +53,12 @@ WindowSet::~WindowSet() {
 
 HWND WindowSet::mainWindow() const { return windows_.at(kMain)->window(); }
 
-bool WindowSet::rightToLeft() const { return program_.language.shown == kRightToLeftLanguage; }
+bool WindowSet::rightToLeft() const { return program_.form.language == kRightToLeftLanguage; }
+
+// A form without captions of a language stands as the main form does.
+std::string_view WindowSet::languageOf(const Form& form) const {
+  return languageKeys(form.name()).empty() ? program_.form.language : form.language;
+}
 
 FormEvents WindowSet::eventsOf(std::string_view name) {
   FormEvents events;
@@ -159,8 +165,9 @@ void WindowSet::syncForm(std::string_view name) {
     // Opened by the keyboard, it shows where the keyboard is.
     if (from && from->showsFocus()) window->showFocus();
   }
-  window->setLanguage(program_.language.shown);
-  window->sync(stripOf(*form), rightToLeft(), name != kMain || main_loaded_);
+  const std::string_view language = languageOf(*form);
+  window->setLanguage(language);
+  window->sync(stripOf(*form), language == kRightToLeftLanguage, name != kMain || main_loaded_);
   syncShadow(name, *window);
 }
 

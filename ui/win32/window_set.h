@@ -23,6 +23,7 @@ class WindowSet {
   WindowSet& operator=(const WindowSet&) = delete;
 
   HWND mainWindow() const;
+  /// Whether the main form is read so.
   bool rightToLeft() const;
   /// The main form has been loaded: it is shown from now on.
   void mainLoaded() { main_loaded_ = true; }
@@ -38,6 +39,7 @@ class WindowSet {
   void syncForm(std::string_view name);
   void syncShadow(std::string_view name, FormWindow& window);
   COLORREF stripOf(const Form& form) const;
+  std::string_view languageOf(const Form& form) const;
 
   Program& program_;
   ActionQueue& actions_;

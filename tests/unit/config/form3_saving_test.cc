@@ -112,6 +112,18 @@ TEST_F(Options, TheStartOfWindowsOverridesEverySchedule) {
   EXPECT_EQ(stored(kTimerSettings, "nextday"), "11/26/2026");
 }
 
+TEST_F(Options, WithTheStartOfWindowsTurnedOffNoScheduleIsLeft) {
+  machine.setting(kTimerSettings, "option", "6").setting(kTimerSettings, "value", "0");
+  machine.setting("tavr wipe\\option\\option", "4", "1");
+  load();
+  ASSERT_TRUE(form().Option6.value());
+  form().Check1[4].press();
+  form().chameleonButton5.press();
+  EXPECT_EQ(stored(kTimerSettings, "winstart"), "0");
+  EXPECT_EQ(stored(kTimerSettings, "option"), "");
+  EXPECT_EQ(stored(kTimerSettings, "value"), "");
+}
+
 TEST_F(Options, EntriesOfEarlierInstallationsAreCleared) {
   const std::string nt = "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Run";
   const std::string run = "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";

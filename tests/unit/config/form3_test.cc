@@ -99,12 +99,17 @@ TEST_F(Options, AScrollBarSetsItsText) {
 }
 
 TEST_F(Options, ATypedIntervalMovesNoScrollBarAndKeepsTheCaretBehindIt) {
-  form().Text1.type("99999");
-  EXPECT_EQ(form().Text1.text(), "99999");
-  EXPECT_EQ(form().VScroll1.value(), 45);
-  EXPECT_EQ(form().Text1.caret, 5U);
-  form().Text1.type("");
-  EXPECT_EQ(form().Text1.caret, 0U);
+  const auto texts = form().intervals();
+  const auto bars = form().scrollBars();
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    const int before = bars[i]->value();
+    texts[i]->type("99999");
+    EXPECT_EQ(texts[i]->text(), "99999") << i;
+    EXPECT_EQ(bars[i]->value(), before) << i;
+    EXPECT_EQ(texts[i]->caret, 5U) << i;
+    texts[i]->type("");
+    EXPECT_EQ(texts[i]->caret, 0U) << i;
+  }
 }
 
 struct Road {

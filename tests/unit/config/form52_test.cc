@@ -99,6 +99,14 @@ TEST_F(KeepList, HasItsControls) {
   }
 }
 
+TEST_F(KeepList, ItsButtonsForAllRowsAreThoseOfEveryForm) {
+  for (ChameleonButton* button : {&form().chameleonButton1, &form().chameleonButton2}) {
+    button->mouseMove();
+    EXPECT_EQ(button->state(), ChameleonButton::State::kOver);
+    EXPECT_TRUE(button->OverTimer.enabled());
+  }
+}
+
 TEST_F(KeepList, PlacesEveryControlOnceInsideWithoutOverlap) {
   const auto& controls = form().controls();
   EXPECT_EQ(controls.size(), form52Design().size());

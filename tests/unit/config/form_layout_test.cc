@@ -36,7 +36,7 @@ struct AllForms {
       : form1(machine),
         form2(machine),
         form3(machine.events),
-        form52(machine.files),
+        form52(machine.events, machine.files),
         message(machine.events),
         about(machine.events) {}
 

@@ -95,7 +95,7 @@ TEST(ApplyLanguage, WritesCaptionsAndColumnsOfTheMainForm) {
   EXPECT_EQ(form.View100.columns[1], "stato");
   EXPECT_EQ(form.View200.columns[0], "rezulto");
   EXPECT_EQ(form.Label6.caption, "grando") << "until the next run begins";
-  EXPECT_EQ(stage.language.shown, "xx");
+  EXPECT_EQ(form.language, "xx");
 }
 
 TEST(ApplyLanguage, AMissingKeyBlanksItsCaption) {
@@ -120,7 +120,7 @@ TEST(ApplyLanguage, WithoutAFileTheDesignStaysTheFontToo) {
   EXPECT_EQ(stage.program.form.cmd_start.font.name, "Segoe UI");
   EXPECT_EQ(stage.language.langcode, 204);
   EXPECT_EQ(stage.language.file_name, "tavrwipe-xx.lang");
-  EXPECT_EQ(stage.language.shown, "");
+  EXPECT_EQ(stage.program.form.language, "");
 }
 
 TEST(ApplyLanguage, WithoutAChoiceTheFileWithoutACodeCounts) {

@@ -70,6 +70,35 @@ TEST_F(StartPage, ItsTitleIsKeptAsReadAndShownTrimmed) {
   EXPECT_EQ(form().Text13.text(), "New");
 }
 
+TEST_F(StartPage, WhatIsAcceptedIsReadAnewBehindTheQuestion) {
+  person.answer = kAnswerNo;
+  person.onBox = [this] {
+    Registry& registry = stage().context.machine.registry;
+    const OpenedKey key = registry.open(Root::kCurrentUser, kBrowserSettings.substr(18), 0x2001F);
+    ASSERT_EQ(key.status, kSuccess);
+    key.key->setValue("Start Page", 1, "http://newer/");
+    key.key->setValue("window title", 1, "Newer");
+  };
+  hold("http://old", "Old");
+  tick();
+  EXPECT_EQ(storedMain("homepage"), "http://newer/");
+  EXPECT_EQ(storedMain("titlepage"), "Newer");
+  EXPECT_EQ(form().Text12.text(), "http://newer/");
+  EXPECT_EQ(form().Text13.text(), "Newer");
+}
+
+// A question may stand open for hours.
+TEST_F(StartPage, TheScheduleGoesByTheTimeBehindTheQuestion) {
+  startClockAt("10:00:00");
+  timerSetting("option", "1");
+  timerSetting("nextmin", "1");
+  timerSetting("nexthoure", "10");
+  hold("http://old", "Old");
+  person.onBox = [this] { events().wait(60'000); };
+  tick();
+  EXPECT_THAT(fired, ::testing::SizeIs(1));
+}
+
 TEST_F(StartPage, IsComparedWithoutCaseAndBlanks) {
   hold("HTTP://NEW/ ", " nEW ");
   tick();

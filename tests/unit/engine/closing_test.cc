@@ -37,6 +37,14 @@ TEST_F(ClosingTest, TheSystemCloseOfASilentStartErasesThenEnds) {
   EXPECT_FALSE(it.desktop().trayToolTip().has_value());
 }
 
+TEST_F(ClosingTest, TheSystemCloseErasesAgainAfterTheRunAtWindowsStart) {
+  machine.setting("tavr wipe\\timer", "winstart", "1");
+  StartedProgram& it = started("s", true);
+  ASSERT_EQ(it.form().Text5.text(), "2");
+  EXPECT_TRUE(it.ends([&] { closeWindow(it.program()); }));
+  EXPECT_THAT(it.runs, ElementsAre(RunKind::erase, RunKind::erase));
+}
+
 TEST_F(ClosingTest, TheCloseButtonOfASilentStartTestsAndKeepsTheTrayIcon) {
   StartedProgram& it = started("s", true);
   EXPECT_TRUE(it.ends([&] { it.form().chameleonButton11.press(); }));

@@ -3,8 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "engine/window.h"
 #include "tests/support/started_program.h"
 
@@ -287,14 +285,14 @@ TEST(InteractiveStart, AFirstTimeMarkThatIsNoNumberOrZeroCountsAsTheFirst) {
 
 TEST(InteractiveStart, TheStripAndItsFourButtonsTakeTheConfiguredColourOrKeepTheDesigns) {
   for (const auto& [text, color] :
-       {std::pair{" 255 ", 255}, {"0", 0}, {"blue", ChameleonButton::kOfScheme}}) {
+       {std::pair{" 255 ", 255}, {"0", 0}, {"-1", -1}, {"blue", ChameleonButton::kOfScheme}}) {
     TestMachine machine;
     usedBefore(machine).setting("tavrwork brightbox", "color", text);
     StartedProgram started(machine);
     started.start();
     const Form1& form = started.form();
-    EXPECT_EQ(form.has_look_color, color >= 0) << text;
-    EXPECT_EQ(form.strip_color, std::max(color, 0)) << text;
+    EXPECT_EQ(form.has_look_color, color != ChameleonButton::kOfScheme) << text;
+    EXPECT_EQ(form.strip_color, form.has_look_color ? color : 0) << text;
     for (const StripButton* button : {&form.chameleonButton9, &form.chameleonButton10,
                                       &form.chameleonButton12, &form.chameleonButton13}) {
       EXPECT_EQ(button->color, color) << text;

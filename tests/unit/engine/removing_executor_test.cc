@@ -155,9 +155,9 @@ TEST(Stamp, IsMadeAsOftenAsTheSettingSaysAndOnlyWithTheOption) {
     const char* passes;
     int openings;
   };
-  for (const Row& row :
-       {Row{"1", "10", 10}, Row{"1", "1", 1}, Row{"1", "", 0}, Row{"1", "x", 0}, Row{"1", "2.5", 2},
-        Row{"0", "5", 0}, Row{"", "5", 0}, Row{"2", "5", 0}, Row{"1.0", "5", 5}}) {
+  for (const Row& row : {Row{"1", "10", 10}, Row{"1", "1", 1}, Row{"1", "", 0}, Row{"1", "x", 0},
+                         Row{"1", "2.5", 2}, Row{"1", "20", 20}, Row{"0", "5", 0}, Row{"", "5", 0},
+                         Row{"2", "5", 0}, Row{"1.0", "5", 5}}) {
     TestMachine machine;
     secure(machine, row.option, row.passes);
     machine.file("C:\\app\\a.log");

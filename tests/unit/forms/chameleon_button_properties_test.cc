@@ -27,6 +27,9 @@ TEST_F(ChameleonButtonProperties, AFreshButtonHasTheDefaultsInItsBag) {
   }
   for (const char* zero : {"MPTR", "PICPOS", "FX"}) EXPECT_EQ(bag[zero], "0") << zero;
   for (const char* none : {"MICON", "PICN", "PICH"}) EXPECT_EQ(bag[none], "") << none;
+  for (const char* color : {"BCOL", "BCOLO", "FCOL", "FCOLO"}) {
+    EXPECT_EQ(bag[color], std::to_string(ChameleonButton::kOfScheme)) << color;
+  }
   EXPECT_EQ(ChameleonButton::kVersion, "2.0.6");
 }
 
@@ -46,6 +49,13 @@ TEST_F(ChameleonButtonProperties, ReadsBackWhatItWroteAndDefaultsForTheRest) {
   EXPECT_TRUE(other.soft_bevel);
   EXPECT_EQ(other.hover_color, 255);
   EXPECT_EQ(other.special_effect, 0);
+}
+
+TEST_F(ChameleonButtonProperties, ABagWithoutAColourLeavesItToTheSchemeAndZeroIsBlack) {
+  button.color = button.text_color = 255;
+  button.readProperties({{"BCOL", "0"}});
+  EXPECT_EQ(button.color, 0);
+  EXPECT_EQ(button.text_color, ChameleonButton::kOfScheme);
 }
 
 TEST_F(ChameleonButtonProperties, TheNoticeOfTheHoverPictureGoesByItsOwnKey) {

@@ -64,6 +64,25 @@ TEST_F(DirectorySearchTest, AFolderThatAMaskMatchesIsNotAFile) {
   EXPECT_EQ(finder().filesfound(), Names({"C:\\d\\y.txt"}));
 }
 
+// An answer without attributes has every bit, that of a folder too; "." and ".."
+// are asked for first, and are never walked.
+TEST_F(DirectorySearchTest, AnEntryWhoseAttributesCannotBeReadIsWalkedAsAFolder) {
+  machine.ini("[fault]\nGetFileAttributes=3,5\n").file("C:\\d\\a.txt").file("C:\\d\\b.txt");
+  finder().findfiles("C:\\d", "*.txt");
+  EXPECT_EQ(events,
+            Names({"> C:\\d\\", "a.txt in C:\\d\\", "b.txt in C:\\d\\", "> C:\\d\\a.txt\\"}));
+}
+
+TEST_F(DirectorySearchTest, TheDotsAreNotWalkedWhoseAttributesCannotBeRead) {
+  machine.ini("[fault]\nGetFileAttributes=0,5\n").file("C:\\d\\a.txt");
+  finder().searching = [this](const std::string& folder) {
+    events.push_back("> " + folder);
+    if (events.size() > 9) finder().Cancel();  // a walk through "." has no end
+  };
+  finder().findfiles("C:\\d", "*.txt");
+  EXPECT_EQ(events, Names({"> C:\\d\\", "a.txt in C:\\d\\", "> C:\\d\\a.txt\\"}));
+}
+
 TEST_F(DirectorySearchTest, SubfoldersCanBeLeftOut) {
   machine.file("C:\\d\\z.txt").file("C:\\d\\a\\b.txt");
   EXPECT_TRUE(finder().searchinsubfolders);

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <utility>
+
 #include "basic/number.h"
 #include "tests/support/forwarding_files.h"
 #include "tests/support/test_machine.h"
@@ -13,19 +15,17 @@ namespace {
 
 constexpr std::uintmax_t kGiB = std::uintmax_t{1} << 30;
 
-// Answers every look with the same attributes.
-class FixedAttributes : public testing::ForwardingFiles {
+// Answers every look with the same entry.
+class FixedEntry : public testing::ForwardingFiles {
  public:
-  FixedAttributes(Files& inner, std::uint32_t attributes)
-      : ForwardingFiles(inner), attributes_(attributes) {}
+  FixedEntry(Files& inner, FoundFile entry) : ForwardingFiles(inner), entry_(std::move(entry)) {}
   Status findFirst(std::string_view, FoundFile& found) override {
-    found = {};
-    found.attributes = attributes_;
+    found = entry_;
     return kSuccess;
   }
 
  private:
-  std::uint32_t attributes_;
+  FoundFile entry_;
 };
 
 class FilePropertiesTest : public ::testing::Test {
@@ -74,6 +74,22 @@ TEST_F(FilePropertiesTest, DatesAreUnpaddedDayMonthYearAndTheAccessIsADateAlone)
   EXPECT_EQ(properties.LastAccessTime(), "4/3/2026");
 }
 
+TEST_F(FilePropertiesTest, TheCreationIsATimeOfItsOwnBesideTheOtherTwo) {
+  constexpr std::uint64_t kSecond = 10'000'000;
+  constexpr std::uint64_t kDay = 86400 * kSecond;
+  FoundFile entry;
+  entry.created = 155227 * kDay + (3 * 3600 + 4 * 60 + 5) * kSecond;  // 2025-12-31
+  entry.accessed = entry.created + kDay;
+  entry.written = entry.created + 2 * kDay + kSecond;
+  FixedEntry files(machine.machine().files, entry);
+  Machine fake = testing::withFiles(machine.machine(), files);
+  clsFileProp properties(fake);
+  ASSERT_EQ(properties.FindFileInfo("C:\\a"), 1);
+  EXPECT_EQ(properties.CreationTime(), "31/12/2025 3:4:5");
+  EXPECT_EQ(properties.LastAccessTime(), "1/1/2026");
+  EXPECT_EQ(properties.LastWriteTime(), "2/1/2026 3:4:6");
+}
+
 TEST_F(FilePropertiesTest, AnEmptyFileHasNoSizeTextWhichCountsAsZero) {
   EXPECT_EQ(sizeOf(0), "");
   EXPECT_EQ(Val(sizeOf(0)), 0);
@@ -101,7 +117,9 @@ TEST_F(FilePropertiesTest, EachFlagIsOneAttribute) {
                 {128, &clsFileProp::Normal},    {0x100, &clsFileProp::Temporary},
                 {0x800, &clsFileProp::Compress}};
   for (const auto& set : kFlags) {
-    FixedAttributes files(machine.machine().files, set.attribute);
+    FoundFile entry;
+    entry.attributes = set.attribute;
+    FixedEntry files(machine.machine().files, entry);
     Machine fake = testing::withFiles(machine.machine(), files);
     clsFileProp properties(fake);
     properties.FindFileInfo("C:\\a");

@@ -155,6 +155,38 @@ TEST_F(RegistryEnumerationTest, AFilesSectionComesRawInABufferAndListsNothing) {
   EXPECT_EQ(packed.find_first_not_of(' ', 9), std::string::npos);
 }
 
+TEST_F(RegistryEnumerationTest, AFilesSectionForList12EmptiesItAndLeavesTheOther) {
+  machine.file("C:\\d\\a.ini", "[s]\r\na=1\r\n");
+  List12.add("old");
+  List20.add("kept");
+  std::string packed;
+  EXPECT_EQ(layer().fEnumValuec("C:\\d\\a.ini", "s", packed), kSuccess);
+  EXPECT_EQ(List12.count(), 0);
+  EXPECT_EQ(rows(List20), Rows({"kept"}));
+  EXPECT_EQ(packed.size(), 8192u);
+  EXPECT_EQ(packed.substr(0, 6), bytes("a=1\0\0 "));
+}
+
+TEST_F(RegistryEnumerationTest, AFilesSectionLeavesText2AsItWas) {
+  machine.file("C:\\d\\a.ini", "[s]\r\na=1\r\n");
+  Text2.setText("old");
+  List12.add("kept");
+  List20.add("kept");
+  std::string packed;
+  EXPECT_EQ(layer().fEnumValue("C:\\d\\a.ini", "s", packed), kSuccess);
+  EXPECT_EQ(Text2.text(), "old");
+  EXPECT_EQ(rows(List12), Rows({"kept"}));
+  EXPECT_EQ(rows(List20), Rows({"kept"}));
+  EXPECT_EQ(packed.substr(0, 6), bytes("a=1\0\0 "));
+}
+
+TEST_F(RegistryEnumerationTest, AnEmptyKeyLeavesTheBlanksOfTheLastStepInText2) {
+  machine.key(kKey);
+  std::string packed;
+  EXPECT_EQ(layer().fEnumValue("HKCU", "Software\\Test", packed), kSuccess);
+  EXPECT_EQ(Text2.text(), std::string(2048, ' '));
+}
+
 TEST_F(RegistryEnumerationTest, AFailedReadEndsTheWalkWithItsStatus) {
   machine.value(kKey, "a", "1").value(kKey, "b", "2").ini("[fault]\nRegQueryValueEx=2,5\n");
   std::string packed;
@@ -169,6 +201,15 @@ TEST_F(RegistryEnumerationTest, AFailedStepEndsTheWalkAsIfNothingWereLeft) {
   EXPECT_EQ(layer().fEnumValueb("HKCU", "Software\\Test", packed), kSuccess);
   EXPECT_EQ(rows(List20), Rows({"a"}));
   EXPECT_EQ(packed, bytes("a=1\0\0"));
+}
+
+TEST_F(RegistryEnumerationTest, AFailedStepAmongSubkeysEndsTheWalkAsIfNothingWereLeft) {
+  for (const char* name : {"a", "b", "c"}) machine.key(std::string(kKey) + "\\" + name);
+  machine.ini("[fault]\nRegEnumKey=2,5\n");
+  std::string packed;
+  EXPECT_EQ(layer().fEnumKey("HKCU", "Software\\Test", packed), kSuccess);
+  EXPECT_EQ(rows(List12), Rows({"a"}));
+  EXPECT_EQ(packed, bytes("a\0\0"));
 }
 
 TEST_F(RegistryEnumerationTest, ANameThatFillsTheBufferEndsTheWalk) {

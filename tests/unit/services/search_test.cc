@@ -177,6 +177,23 @@ TEST_F(SearchTest, DatesAreUniversalTimeInWholeSeconds) {
   EXPECT_DOUBLE_EQ(file.Modified, 46346 + 10.0 / 24);
 }
 
+TEST_F(SearchTest, CreatedAccessedAndModifiedAreThreeTimesOfOneFile) {
+  constexpr std::uint64_t kDay = 86400 * kSecond;
+  FoundFile file;
+  file.name = "a";
+  file.created = (109205 + 40'000) * kDay;
+  file.accessed = (109205 + 42'000) * kDay + 18 * 3600 * kSecond;
+  file.written = (109205 + 41'000) * kDay + 6 * 3600 * kSecond;
+  OneFile files(machine.machine().files, file);
+  Machine fake = testing::withFiles(machine.machine(), files);
+  Search one(fake, stack);
+  one.SearchFiles("C:\\d", "*.*", false);
+  ASSERT_EQ(one.found().count(), 1u);
+  EXPECT_EQ(one.found().item(1).Created, 40'000);
+  EXPECT_EQ(one.found().item(1).Accessed, 42'000.75);
+  EXPECT_EQ(one.found().item(1).Modified, 41'000.25);
+}
+
 TEST_F(SearchTest, ADateBeforeTheFirstDayCountsDownWhileItsTimeCountsUp) {
   EXPECT_EQ(fileTimeToDate(0), -109205);
   EXPECT_EQ(fileTimeToDate(6 * 3600 * kSecond), -109205.25);

@@ -71,7 +71,8 @@ TEST_F(KeyTree, WorksInThe64BitView) {
             kFileNotFound);
 }
 
-// A key that answers "ab", and more behind a NUL, for its subkey "ab".
+// A key that answers "ab", and more behind a NUL, for its subkey "ab", and a name
+// that begins with a NUL for its subkey "nul".
 class TailedNames : public RecordingKey {
  public:
   TailedNames(std::unique_ptr<RegistryKey> inner, RegistryCalls& calls)
@@ -79,6 +80,7 @@ class TailedNames : public RecordingKey {
   Status enumKey(std::uint32_t index, std::string& name) override {
     const Status status = RecordingKey::enumKey(index, name);
     if (status == kSuccess && name == "ab") name.append("\0z", 2);
+    if (status == kSuccess && name == "nul") name.insert(0, 1, '\0');
     return status;
   }
 };
@@ -120,6 +122,17 @@ TEST_F(TailedKeyTree, ASubkeysNameEndsAtItsFirstNul) {
                           "key Software\\tree\\one", "key Software\\tree"));
   EXPECT_FALSE(keyExists("Software\\tree"));
   EXPECT_TRUE(keyExists("Software"));
+}
+
+// Such a name is no name of a subkey: what follows it is the key itself once more.
+TEST_F(TailedKeyTree, ASubkeyWhoseNameBeginsWithANulIsNotFollowedAndTheOthersGo) {
+  world_.key(hkcu("Software\\tree\\nul\\below")).key(hkcu("Software\\tree\\one\\deep"));
+  fDeleteKeyTree(tracks(), Root::kCurrentUser, "Software\\tree");
+  EXPECT_THAT(calls({"key ", "missing "}),
+              ElementsAre("key Software\\tree\\", "key Software\\tree\\one\\deep",
+                          "key Software\\tree\\one", "key Software\\tree"));
+  EXPECT_FALSE(keyExists("Software\\tree\\one"));
+  EXPECT_TRUE(keyExists("Software\\tree\\nul\\below"));
 }
 
 }  // namespace

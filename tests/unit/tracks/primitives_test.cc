@@ -74,6 +74,22 @@ TEST_F(Primitives, AFileThatCannotGoIsReportedAllTheSame) {
   EXPECT_FALSE(remains("b.log"));
 }
 
+// The keep list is the person's note; no search looks at it.
+TEST_F(Primitives, ANameOnTheKeepListIsFoundAndDeletedAllTheSame) {
+  const std::string list = std::string(kProgramFolder) + "\\cookies.tvr";
+  world_.file(list, "a.log\r\nC:\\d\\b.log\r\nc.log\r\n");
+  srch(tracks(), kLogs, "*.log", "listed");
+  srch2(tracks(), kLogs, "*.log", "listed");
+  EXPECT_EQ(rows().size(), 6u);
+  srchd(tracks(), kLogs, "a.log", "deleted");
+  srchd(tracks(), kLogs, "b.log", "deleted");
+  srchd2(tracks(), kLogs, "c.log", "deleted");
+  EXPECT_EQ(rows().size(), 9u);
+  EXPECT_EQ(form().trackcount, 9);
+  EXPECT_FALSE(remains("a.log") || remains("b.log") || remains("sub\\c.log"));
+  EXPECT_EQ(world_.read(list), "a.log\r\nC:\\d\\b.log\r\nc.log\r\n");
+}
+
 TEST_F(Primitives, SecureOverwritingDoesNotReachWhatASearchDeletes) {
   world_.setting("tavr wipe\\option\\option", "3", "1").setting("tavr wipe", "secure_value", "3");
   world_.ini("[fault]\nDeleteFile=0,5\n");

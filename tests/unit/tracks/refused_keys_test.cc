@@ -1,5 +1,5 @@
-// A registry that lets nobody into the user's keys for cleaning: every procedure
-// comes to its end, reports as it always does, and leaves the keys alone.
+// A registry that lets nobody into the user's keys: every procedure that opens
+// them comes to its end, reports as it always does, and leaves the keys alone.
 #include <optional>
 
 #include "tests/unit/tracks/track_fixture.h"
@@ -35,6 +35,9 @@ class RefusingRegistry : public Registry {
 
 const std::string kExplorer = "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\";
 const std::string kDialogs = kExplorer + "ComDlg32\\";
+const std::string kIe = "Software\\Microsoft\\Internet Explorer\\";
+const std::string kExtensible =
+    "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\5.0\\Cache\\Extensible Cache";
 const std::string kTray =
     "Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\CurrentVersion\\TrayNotify";
 
@@ -49,11 +52,27 @@ struct Refused {
 const Refused kRefused[] = {
     {"c1", {"Clean start run history  <OK>"}, 0, "1", true},
     {"c2", {}, 0, "0", true},
+    {"t2", {}, 0, "0", false},
     {"c3", {"start documents history  <OK>"}, 0, "1", true},
+    {"t3", {"start documents history  <OK>"}, 0, "1", true},
     {"c4", {"Windows RecycleBin Files  <OK>"}, 0, "0", false},
     // Settings are read with another mask: default values still have their rows.
     {"c5", {"  <OK>", ": legacy  <OK>", ": pidl  <OK>"}, 3, "3", true},
+    {"t5", {"clean open save dialogs  <OK>"}, 1, "1", false},
+    {"c6", {}, 0, "0", true},
+    {"t6", {}, 0, "0", true},
+    {"c7", {}, 0, "0", true},
+    {"t7", {}, 0, "0", true},
+    // The empty name twice: the user's own keys and those that the logged-on user's
+    // name leads to. That name's key is open to all, and the last to be granted.
+    {"c11",
+     {"Cleaning Internet History value:   <OK>", "Cleaning Internet History value:   <OK>"},
+     2,
+     "2",
+     false},
+    {"t11", {"Cleaning Internet History value:   <OK>"}, 1, "1", false},
     {"c95", {": search  <OK>", ": search  <OK>"}, 2, "0", true},
+    {"t95", {": search  <OK>", ": search  <OK>"}, 2, "0", true},
     {"c96",
      {"Notification Area: " + kTray + "\\PastIconsStream  <OK>",
       "Notification Area: " + kTray + "\\IconStreams  <OK>"},
@@ -75,6 +94,12 @@ class RefusedKeys : public TrackTest, public ::testing::WithParamInterface<Refus
     world_.value(hkcu(kDialogs + "LastVisitedPidlMRULegacy"), "", "legacy");
     world_.value(hkcu(kDialogs + "OpenSavePidlMRU"), "", "pidl");
     world_.value(hkcu(kTray), "IconStreams", "x").value(hkcu(kTray), "PastIconsStream", "x");
+    world_.value(hkcu(kIe + "TypedURLs"), "url1", "http://a.example/");
+    world_.value(hkcu(kIe + "LowRegistry\\DOMStorage\\a.example"), "v", "x");
+    world_.value(hkcu(kIe + "DOMStorage\\b.example"), "v", "x");
+    world_.value(hkcu(kExtensible + "\\one"), "v", "x");
+    world_.value("HKEY_LOCAL_MACHINE\\Network\\Logon", "username", "ann");
+    world_.value(hkcu("ann\\" + kExtensible + "\\one"), "v", "x");
     world_.file("C:\\$Recycle.Bin\\S-1\\$R1.txt");
     world_.machine();
     planted_ = world_.readMachineFile("registry.reg");

@@ -225,6 +225,41 @@ TEST_F(ChameleonDrawing, TakesBlackForAColourOfItsOwn) {
   EXPECT_EQ(draw(button, {.hovered = true})->count(inside, RGB(0, 0, 0)), 88 * 12);
 }
 
+TEST_F(ChameleonDrawing, ShowsAPressOnBlackToo) {
+  ChameleonButton button(events_);
+  button.caption = "Erase";
+  button.color = button.hover_color = 0;
+  for (const int type : {0, 6, 11}) {
+    button.button_type = type;
+    const auto over = draw(button, {.hovered = true});
+    EXPECT_GE(over->differing(*draw(button, {.hovered = true}, ChameleonButton::kPressed)),
+              kSeenState)
+        << type;
+  }
+}
+
+TEST_F(ChameleonDrawing, TakesATextColourOfItsOwnWhateverItIs) {
+  ChameleonButton button(events_);
+  button.caption = "MMMM";
+  button.color = RGB(60, 60, 200);
+  const auto light = draw(button);
+  button.text_color = static_cast<std::int32_t>(palette_.text);
+  EXPECT_GE(light->differing(*draw(button)), 20);
+}
+
+// No line and no sign is mixed with what lies below it.
+TEST_F(ChameleonDrawing, DisabledInHighContrastItsSignIsInTheSystemsGrey) {
+  palette_ = highContrast();
+  ChameleonButton button(events_);
+  button.caption = "";
+  const RECT all{0, 0, kSize.cx, kSize.cy};
+  const auto picture = draw(button, {.enabled = false, .icon = "stop"});
+  EXPECT_GE(picture->count(all, GetSysColor(COLOR_GRAYTEXT)), 12);
+  button.button_type = 6;
+  const auto pill = draw(button, {.enabled = false});
+  EXPECT_EQ(pill->at(kSize.cx / 2, 0), GetSysColor(COLOR_GRAYTEXT));
+}
+
 // The strip in black, as a person may have it: its buttons take it like any colour.
 TEST_F(ChameleonDrawing, KeepsTheColourOfABlackStripUnderTheMouse) {
   ChameleonButton button(events_);

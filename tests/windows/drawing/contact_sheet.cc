@@ -97,10 +97,11 @@ void Sheet::drawSchemes(int top) {
       ChameleonButton button(events_);
       button.button_type = type;
       button.caption = column == 0 ? "Scheme 2" : column == 1 ? "Own" : "Effects";
-      button.color_scheme = column == 2 ? 1 : 2 + column;
-      button.color = 0x6FAF4C;
-      button.text_color = 0x203010;
-      if (column != 1) button.color = button.text_color = 0;
+      button.color_scheme = column == 0 ? 2 : 1;
+      if (column == 1) {
+        button.color = 0x6FAF4C;
+        button.text_color = 0x203010;
+      }
       button.special_effect = column == 2 ? 1 + row % 3 : 0;
       button.soft_bevel = column == 2;
       drawChameleonButton(picture_.dc(), box(864 + 104 * column, top + 34 * row, 96, 28), button, 0,

@@ -69,6 +69,13 @@ TEST_F(ListDrawing, ATextThatIsTooLongEndsInDotsOrAtTheEdge) {
   EXPECT_EQ(width_, whole);
 }
 
+TEST_F(ListDrawing, ItsWidthIsThatOfTheSignsAndTheText) {
+  draw({.text = "alpha"});
+  const int text = width_;
+  draw({.text = "alpha", .icon = "plugins", .has_box = true});
+  EXPECT_EQ(width_, text + 2 * (kListSign + kListPadding / 2));
+}
+
 TEST_F(ListDrawing, ABoxAndAnIconStandBeforeTheText) {
   const RECT first{kListPadding, 0, kListPadding + kListSign, kSize.cy};
   const auto unticked = draw({.has_box = true});

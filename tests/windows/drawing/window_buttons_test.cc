@@ -196,7 +196,7 @@ TEST_F(WindowButtons, AReleaseBesideTheButtonIsNoClick) {
 TEST_F(WindowButtons, AButtonThatLosesItsWindowWhileItIsHeldIsLetGoOf) {
   send(WM_LBUTTONDOWN, MK_LBUTTON);
   ASSERT_EQ(button_.state(), ChameleonButton::State::kPressed);
-  shown_.program().language.shown = "ar";
+  shown_.program().form.language = "ar";
   shown_.pump();
   EXPECT_EQ(button_.state(), ChameleonButton::State::kNormal);
 }

@@ -69,7 +69,7 @@ TEST_F(WindowForms, OneThatIsLargerThanTheScreenKeepsTheEndOfItsStripInSight) {
   EXPECT_EQ(placeOf(form).top, monitor.rcWork.top);
   EXPECT_EQ(placeOf(form).right, monitor.rcWork.right);
   EXPECT_LT(placeOf(form).left, monitor.rcWork.left);
-  shown_.program().language.shown = "ar";
+  shown_.program().form.language = "ar";
   shown_.pump();
   SendMessageW(form, WM_DPICHANGED, MAKEWPARAM(kDpi, kDpi), 0);
   EXPECT_EQ(placeOf(form).top, monitor.rcWork.top);
@@ -130,7 +130,7 @@ TEST_F(WindowForms, TheFocusStaysWhereItIsWhenTheDirectionTurns) {
   SetForegroundWindow(window("Form1"));
   SetFocus(shown_.window("Form1", "cmd_view"));
   const HWND before = GetFocus();
-  shown_.program().language.shown = "ar";
+  shown_.program().form.language = "ar";
   shown_.pump();
   EXPECT_FALSE(IsWindow(before));
   EXPECT_EQ(GetFocus(), shown_.window("Form1", "cmd_view"));

@@ -181,6 +181,22 @@ TEST_F(WindowList, AKeptRowThatComesOrGoesLeavesThePlaceThatIsSeen) {
   shown_.pump();
   EXPECT_EQ(SendMessageW(window, LB_GETTOPINDEX, 0, 0), 90);
   EXPECT_EQ(SendMessageW(window, LB_GETCARETINDEX, 0, 0), 95);
+  // As the wheel leaves it, out of sight.
+  SendMessageW(window, LB_SETCARETINDEX, 0, FALSE);
+  SendMessageW(window, LB_SETTOPINDEX, 90, 0);
+  list.add("another");
+  shown_.pump();
+  EXPECT_EQ(SendMessageW(window, LB_GETTOPINDEX, 0, 0), 90);
+  EXPECT_EQ(SendMessageW(window, LB_GETCARETINDEX, 0, 0), 0);
+  // Filled anew it begins at its top, even with the same rows.
+  SendMessageW(window, LB_SETTOPINDEX, 90, 0);
+  const std::vector<ListBox::Row> same = list.rows;
+  list.clear();
+  for (const ListBox::Row& row : same) list.add(row.text);
+  shown_.pump();
+  EXPECT_EQ(SendMessageW(window, LB_GETTOPINDEX, 0, 0), 0);
+  EXPECT_EQ(SendMessageW(window, LB_GETCARETINDEX, 0, 0), 0);
+  SendMessageW(window, LB_SETCARETINDEX, 95, FALSE);
   list.rows.erase(list.rows.begin() + 3, list.rows.end());
   shown_.pump();
   EXPECT_EQ(SendMessageW(window, LB_GETCOUNT, 0, 0), 3);
