@@ -25,8 +25,8 @@ class ChameleonButton : public Button {
   static constexpr std::uint32_t kOverTimerInterval = 50;  ///< ms
   static constexpr int kNormal = 0;                        ///< states to draw
   static constexpr int kPressed = 2;
-  /// No colour of its own, in a number that no colour has: 0 is black, and what is
-  /// below 0 a colour of the system.
+  /// No colour of its own, in a number that is neither a colour nor one of the
+  /// system's: 0 is black.
   static constexpr std::int32_t kOfScheme = std::numeric_limits<std::int32_t>::min() + 0xFFFFFF;
 
   enum class State : std::uint8_t { kNormal, kOver, kPressed };

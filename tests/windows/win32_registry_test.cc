@@ -96,6 +96,9 @@ TEST(Win32RegistryTest, TheProgramsOwnKeysStandInTheViewThatIsAskedFor) {
     if (status == ERROR_SUCCESS) RegCloseKey(key);
     return status == ERROR_SUCCESS;
   };
+  for (const REGSAM view : {KEY_WOW64_32KEY, KEY_WOW64_64KEY}) {  // of a run that broke off
+    RegDeleteKeyExW(HKEY_LOCAL_MACHINE, kPath, view, 0);
+  }
   Win32Registry registry;
   const std::string path = "SOFTWARE\\tavrwork\\Tavr Win32 Own";
   EXPECT_EQ(registry.open(Root::kLocalMachine, path, kAccess).status, kFileNotFound);

@@ -1,6 +1,7 @@
 #include "ui/win32/bound_button.h"
 
 #include <optional>
+#include <utility>
 
 #include "ui/win32/control_places.h"
 #include "ui/win32/form_window.h"
@@ -107,8 +108,8 @@ void BoundButton::onMove(bool any_button_down) {
     return;
   }
   chameleon_->pointer_inside = hovered_;
-  any_button_down_ = any_button_down;  // as the last of the moves that wait has it
-  postMove([this] { chameleon_->mouseMove(any_button_down_); });
+  plain_move_ |= !any_button_down;  // one of the moves that wait
+  postMove([this] { chameleon_->mouseMove(!std::exchange(plain_move_, false)); });
 }
 
 void BoundButton::onLeave() {

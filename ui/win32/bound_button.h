@@ -32,7 +32,7 @@ class BoundButton : public DrawnControl {
 
   Button& button_;
   ChameleonButton* chameleon_;  ///< the same, null for a plain button
-  bool any_button_down_ = false;
+  bool plain_move_ = false;     ///< a move without a button waits to be passed on
 };
 
 }  // namespace tavr::win32

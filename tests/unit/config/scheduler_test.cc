@@ -25,8 +25,8 @@ TEST_F(Scheduler, WithoutAScheduleNothingFires) {
   EXPECT_THAT(person.boxes, IsEmpty());
 }
 
-// What an earlier version was to do: every schedule erases.
-TEST_F(Scheduler, WhatWasToBeDoneOnceMakesNoDifference) {
+// `whattodo` is read and changes nothing: every schedule erases.
+TEST_F(Scheduler, WhatToDoIsReadWithoutEffect) {
   timerSetting("option", "3");
   timerSetting("nextday", "1/1/2020");
   timerSetting("whattodo", "2");

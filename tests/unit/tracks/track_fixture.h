@@ -22,6 +22,9 @@ namespace tavr::testing {
 
 class TrackTest : public ::testing::Test {
  protected:
+  /// The program goes before the doubles that a suite lays below it.
+  void TearDown() override { program_.reset(); }
+
   /// The program on the wrapped machine, made at the first call, as the head of
   /// a run leaves it, with one task row in progress.
   Program& program() {

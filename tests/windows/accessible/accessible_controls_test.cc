@@ -220,9 +220,11 @@ TEST(AccessibleControls, ASignIsReadOutInTheLanguageInForce) {
 }
 
 TEST(AccessibleControls, ASignIsReadOutInTheLanguageOfTheCaptions) {
-  ShownProgram shown("xx");  // of which there is no file
-  EXPECT_EQ(shown.control("Form1", "cmd_start").caption, "Erase");
-  EXPECT_EQ(ask(shown.window("Form1", "chameleonButton10")).name, "Minimize");
+  {
+    ShownProgram shown("xx");  // of which there is no file
+    EXPECT_EQ(shown.control("Form1", "cmd_start").caption, "Erase");
+    EXPECT_EQ(ask(shown.window("Form1", "chameleonButton10")).name, "Minimize");
+  }
   // Picked, and there is no file: what is open stays, what opens is as designed.
   ShownProgram german("de");
   german.program().registry.saveSetting(settings::kLanguageKey, "lang", "xx");

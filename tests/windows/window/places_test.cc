@@ -100,14 +100,14 @@ TEST_F(Places, TheKeepListStandsOverTheMiddleOfTheSettings) {
 }
 
 // With the strip that their windows have above the form.
-TEST_F(Places, TheSmallDialogsStandOnTopInTheMiddleOfTheScreen) {
+TEST_F(Places, TheSmallDialogsStandInTheMiddleOfTheScreenAndTheMessageOnTop) {
   for (const std::string_view form : {"frmmsg", "Form4"}) {
     shown_.open(form);
     rest();
     const RECT place = placeOf(form);
     EXPECT_NEAR(place.left + place.right, GetSystemMetrics(SM_CXSCREEN), 2) << form;
     EXPECT_NEAR(place.top + place.bottom, GetSystemMetrics(SM_CYSCREEN), 2) << form;
-    // The note of a browser puts the message form on top, and not itself.
+    // The note of a browser does not stay on top itself.
     EXPECT_EQ(staysOnTop(form), form == "frmmsg") << form;
   }
 }

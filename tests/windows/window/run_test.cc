@@ -139,12 +139,10 @@ TEST_F(Run, TheFiguresOfWhatIsDoneAreShownAndKeptWhileTheRunGoesOn) {
   EXPECT_GE(std::atoi(setting(settings::kLiveKey, "tracks-file-count").c_str()), files);
   EXPECT_NE(setting(settings::kLiveKey, "tracks-size-count"), "");
   EXPECT_NE(setting(settings::kLiveKey, "tracks-reg-count"), "");
-  ASSERT_TRUE(program().enabled("Form1.cmd_stop")) << "still at work";
-  program().click("Form1.cmd_stop");
-  EXPECT_TRUE(finished());
+  EXPECT_TRUE(program().enabled("Form1.cmd_stop")) << "still at work";
 }
 
-TEST_F(Run, TheToolbarErasesStopsAndShowsTheLog) {
+TEST_F(Run, TheToolbarErasesAndStops) {
   plant(30000);
   start();
   program().click("Form1.Toolbar1(8)");
@@ -182,7 +180,7 @@ class RunningBrowser : public Run {
     EXPECT_STREQ(title, L"confirmation");
     EXPECT_FALSE(IsWindowEnabled(program().form("Form1")));
     DrivenProgram::answer(box, button);
-    EXPECT_TRUE(finished());
+    EXPECT_TRUE(comes([this] { return status(kChromeRow) == "Finished"; }, kRun));
   }
 
   std::unique_ptr<DrivenProgram> browser_;
