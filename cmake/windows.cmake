@@ -2,11 +2,11 @@
 tavr_layer(tavr_win32 FOLDERS platform/win32 USES tavr_basic)
 target_compile_definitions(tavr_win32 PUBLIC UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX
                            _WIN32_WINNT=0x0A00)
-target_link_libraries(tavr_win32 PUBLIC advapi32 comdlg32 gdi32 ole32 oleaut32 shell32 user32
+target_link_libraries(tavr_win32 PUBLIC advapi32 gdi32 ole32 oleaut32 shell32 user32
                       uuid wbemuuid)
 
 tavr_layer(tavr_ui_win32 FOLDERS ui/win32 USES tavr_engine tavr_win32)
-target_link_libraries(tavr_ui_win32 PUBLIC comctl32 gdiplus)
+target_link_libraries(tavr_ui_win32 PUBLIC gdiplus)
 
 # The same bytes from any folder, and no more of them than are called.
 foreach(layer tavr_basic tavr_forms tavr_services tavr_tracks tavr_config tavr_engine tavr_win32

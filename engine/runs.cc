@@ -106,11 +106,13 @@ int prompt(Program& program, const BrowserGroup& group) {
 }
 
 // Asks about a running browser; true when the group's procedures are to be
-// skipped. Two tests: with a parent, and interactively.
+// skipped. Two tests: with a parent, and interactively. Where neither can be met
+// the processes are not looked at, which would be much of an unattended start.
 bool browserIsKept(Program& program, const BrowserGroup& group) {
   int answer = kAnswerNo;
   bool skip = false;
-  const auto runs = [&] { return pid(program.machine, group.process).value_or(0) > 0; };
+  const bool asks = program.form.parentMode > 0 || program.form.unattended == 0;
+  const auto runs = [&] { return asks && pid(program.machine, group.process).value_or(0) > 0; };
   if (runs() && program.form.parentMode > 0) {
     answer = prompt(program, group);
     skip = true;

@@ -10,6 +10,7 @@
 #include "platform/folder/machine_folder.h"
 #include "platform/folder/registry_reader.h"
 #include "platform/folder/registry_writer.h"
+#include "tests/support/machine_with.h"
 
 namespace {
 
@@ -39,12 +40,6 @@ constexpr std::string_view kRegistry = R"(Windows Registry Editor Version 5.00
 "1"="one"
 )";
 
-tavr::Machine onRegistry(tavr::Machine& base, tavr::Registry& registry) {
-  return {registry,       base.wmi,    base.ini,       base.files,      base.processes,
-          base.url_cache, base.shell,  base.event_log, base.parent,     base.clock,
-          base.locale,    base.events, base.dialogs,   base.environment};
-}
-
 void checkParsed(std::string_view line) {
   const tavr::PlugInRegistryLine parsed = tavr::parsePlugInRegistryLine(line);
   require(!parsed.root.empty() || parsed.path.empty(), "without a root there is no path");
@@ -64,7 +59,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   tavr::folder::RegistryTree tree;
   tavr::folder::readRegistry("registry.reg", kRegistry, tree);
   tavr::folder::FolderRegistry registry(tree, faults);
-  tavr::Machine machine = onRegistry(base.machine(), registry);
+  tavr::Machine machine = tavr::testing::machineWith(base.machine(), registry);
   tavr::Program program(machine);
 
   tavr::plugInRegistryLine(program, line, false);

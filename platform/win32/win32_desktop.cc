@@ -11,6 +11,7 @@
 
 #include "basic/utf.h"
 #include "platform/win32/held_windows.h"
+#include "platform/win32/system_library.h"
 #include "platform/win32/wide.h"
 
 namespace tavr::win32 {
@@ -34,6 +35,17 @@ std::wstring dialogFilter(std::string_view filter) {
   std::replace(text.begin(), text.end(), L'|', L'\0');
   text.append(2, L'\0');
   return text;
+}
+
+// False: closed without an answer, or there is no such dialog. Its library brings
+// the printers' and the lists' in: few starts of the program need it.
+bool askForFile(OPENFILENAMEW& dialog) {
+  SystemLibrary library(L"comdlg32.dll");
+  const auto ask = reinterpret_cast<decltype(&GetOpenFileNameW)>(
+      library ? library.find("GetOpenFileNameW") : nullptr);
+  if (ask == nullptr) return false;
+  library.keep();  // what the shell shows in the dialog may run on behind it
+  return ask(&dialog) != FALSE;
 }
 
 }  // namespace
@@ -143,7 +155,7 @@ std::optional<std::string> Win32Desktop::chooseFile(std::string_view filter,
   if (events_ != nullptr) loop.emplace(*events_);
   const auto shown = [&] {
     const HeldWindows held(dialog.hwndOwner);
-    return GetOpenFileNameW(&dialog) != FALSE;
+    return askForFile(dialog);
   };
   const bool answered = shown();
   if (loop) loop->rethrow();

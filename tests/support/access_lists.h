@@ -11,6 +11,8 @@
 #include <utility>
 
 #include "basic/text.h"
+#include "platform/registry.h"
+#include "platform/security.h"
 #include "tests/support/forwarding_files.h"
 
 namespace tavr::testing {

@@ -2,7 +2,7 @@
 // overrides the one operation that it counts or lets answer otherwise.
 #pragma once
 
-#include "platform/machine.h"
+#include "platform/files.h"
 
 namespace tavr::testing {
 
@@ -45,13 +45,5 @@ class ForwardingFiles : public Files {
  private:
   Files& inner_;
 };
-
-/// The same machine with other files.
-inline Machine withFiles(const Machine& machine, Files& files) {
-  return {machine.registry,  machine.wmi,         machine.ini,     files,
-          machine.processes, machine.url_cache,   machine.shell,   machine.event_log,
-          machine.parent,    machine.clock,       machine.locale,  machine.events,
-          machine.dialogs,   machine.environment, machine.desktop, machine.accounts};
-}
 
 }  // namespace tavr::testing

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "platform/machine.h"
+#include "platform/events.h"
 
 namespace tavr::testing {
 
@@ -28,13 +28,5 @@ class ObservedEvents : public Events {
  private:
   Events& inner_;
 };
-
-/// The same machine with other events.
-inline Machine withEvents(const Machine& machine, Events& events) {
-  return {machine.registry,  machine.wmi,         machine.ini,     machine.files,
-          machine.processes, machine.url_cache,   machine.shell,   machine.event_log,
-          machine.parent,    machine.clock,       machine.locale,  events,
-          machine.dialogs,   machine.environment, machine.desktop, machine.accounts};
-}
 
 }  // namespace tavr::testing

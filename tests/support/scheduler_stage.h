@@ -13,6 +13,7 @@
 
 #include "config/form3_code.h"
 #include "config/scheduler.h"
+#include "tests/support/machine_with.h"
 #include "tests/support/options_form.h"
 
 namespace tavr::testing {
@@ -54,10 +55,8 @@ class Scheduler : public ::testing::Test {
     if (stage_) return *stage_;
     stage_ = std::make_unique<FormStage>(machine);
     const Machine& m = stage_->program.machine;
-    machine_ = std::make_unique<Machine>(
-        Machine{m.registry, m.wmi, m.ini, m.files, m.processes, m.url_cache, m.shell, m.event_log,
-                m.parent, m.clock, locale != nullptr ? *locale : m.locale, m.events, person,
-                m.environment, m.desktop, m.accounts});
+    machine_ =
+        std::make_unique<Machine>(machineWith(m, locale != nullptr ? *locale : m.locale, person));
     context_ = std::make_unique<FormContext>(
         FormContext{*machine_, stage_->program.registry, stage_->program.numbers,
                     stage_->program.tracks, stage_->language, stage_->host});

@@ -5,16 +5,11 @@
 #include "basic/resume_next.h"
 #include "engine/runs.h"
 #include "engine/start.h"
+#include "tests/support/machine_with.h"
 
 namespace tavr::testing {
 
 namespace {
-
-Machine withDialogs(const Machine& m, Dialogs& dialogs) {
-  return {m.registry, m.wmi,         m.ini,     m.files,   m.processes, m.url_cache,
-          m.shell,    m.event_log,   m.parent,  m.clock,   m.locale,    m.events,
-          dialogs,    m.environment, m.desktop, m.accounts};
-}
 
 bool endsProcess(const std::function<void()>& action) {
   try {
@@ -76,7 +71,8 @@ int RecordingFiles::openings(std::string_view path, OpenMode mode) const {
 WatchedProgram::WatchedProgram(TestMachine& test)
     : events(test.machine().events),
       files(test.machine().files),
-      machine(withDialogs(withFiles(withEvents(test.machine(), events), files), dialogs)),
+      queries(test.machine().wmi),
+      machine(machineWith(test.machine(), events, files, queries, dialogs)),
       program(machine),
       form(program.form) {}
 

@@ -1,9 +1,11 @@
-// The program on a test's machine with its message boxes, its event pump and
-// its file operations watched: what a test needs to answer a prompt, to act in
-// the middle of a run, or to count the openings of a file.
+// The program on a test's machine with its message boxes, its event pump, its
+// file operations and its questions for processes watched: what a test needs to
+// answer a prompt, to act in the middle of a run, or to count the openings of a file.
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -67,6 +69,25 @@ class RecordingFiles : public ForwardingFiles {
   std::vector<std::pair<std::string, std::uint32_t>> attributes_set;
 };
 
+/// The machine's WMI, with the queries for processes kept.
+class RecordingQueries : public Wmi {
+ public:
+  explicit RecordingQueries(Wmi& inner) : inner_(inner) {}
+
+  std::unique_ptr<StdRegProv> bindRegistryProvider(std::string_view moniker) override {
+    return inner_.bindRegistryProvider(moniker);
+  }
+  bool queryProcessIds(std::string_view query, std::vector<std::uint32_t>& ids) override {
+    asked.emplace_back(query);
+    return inner_.queryProcessIds(query, ids);
+  }
+
+  std::vector<std::string> asked;
+
+ private:
+  Wmi& inner_;
+};
+
 /// A program of its own on the machine, which must outlive it.
 class WatchedProgram {
  public:
@@ -87,6 +108,7 @@ class WatchedProgram {
   RecordingDialogs dialogs;
   HookedEvents events;
   RecordingFiles files;
+  RecordingQueries queries;
   Machine machine;
   Program program;
   Form1& form;

@@ -13,4 +13,4 @@ add_executable(test_drawing ${sources} ${folder}/picture.cc ${folder}/sample_pic
                ${folder}/measured_form.cc ${folder}/system_colors.cc ${folder}/test_window.cc
                ${folder}/../accessible/shown_program.cc ${folder}/../display.cc
                ${folder}/drawing_test.rc)
-target_link_libraries(test_drawing PRIVATE tavr_ui_win32 gmock_main)
+target_link_libraries(test_drawing PRIVATE tavr_ui_win32 gmock_main comctl32)

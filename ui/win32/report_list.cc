@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/win32/wide.h"
+#include "ui/win32/common_controls.h"
 #include "ui/win32/form_window.h"
 #include "ui/win32/subclass.h"
 
@@ -41,7 +42,7 @@ ReportList::ReportList(FormWindow& form, Control& control) : BoundControl(form, 
 ReportList::~ReportList() {
   removeSubclass(headerWindow(), &headerProcedure, kHeaderSubclass);
   ListView_SetImageList(window_, nullptr, LVSIL_SMALL);
-  if (row_height_ != nullptr) ImageList_Destroy(row_height_);
+  destroyImageList(row_height_);
 }
 
 HWND ReportList::headerWindow() const { return ListView_GetHeader(window_); }
@@ -50,9 +51,9 @@ HWND ReportList::headerWindow() const { return ListView_GetHeader(window_); }
 void ReportList::fontChanged() {
   BoundControl::fontChanged();
   const HIMAGELIST before = row_height_;
-  row_height_ = ImageList_Create(1, form_.px(kRowHeight), ILC_COLOR, 1, 1);
+  row_height_ = createImageList(1, form_.px(kRowHeight));
   ListView_SetImageList(window_, row_height_, LVSIL_SMALL);
-  if (before != nullptr) ImageList_Destroy(before);
+  destroyImageList(before);
   longest_ = 0;
 }
 

@@ -12,6 +12,7 @@
 #include "config/maker_site.h"
 #include "services/settings_keys.h"
 #include "tests/support/fake_form_host.h"
+#include "tests/support/machine_with.h"
 #include "tests/support/scheduler_stage.h"
 
 namespace tavr {
@@ -338,9 +339,7 @@ TEST_F(Form2PlugIns, DeleteAsksForYesOrNoWithTheSignOfAQuestion) {
   const Machine& m = stage().program.machine;
   testing::Person person;
   person.answer = kAnswerNo;
-  Machine asking{m.registry, m.wmi,         m.ini,     m.files,   m.processes, m.url_cache,
-                 m.shell,    m.event_log,   m.parent,  m.clock,   m.locale,    m.events,
-                 person,     m.environment, m.desktop, m.accounts};
+  Machine asking = testing::machineWith(m, person);
   FormContext context{asking,
                       stage().program.registry,
                       stage().program.numbers,

@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "tests/support/machine_with.h"
 #include "tests/support/observed_events.h"
 #include "tests/unit/config/form2_fixture.h"
 
@@ -86,7 +87,7 @@ class PumpingForm2 : public Form2Test {
  protected:
   Form2Code& start() {
     events = std::make_unique<testing::ObservedEvents>(stage().program.machine.events);
-    observed = std::make_unique<Machine>(withEvents(stage().program.machine, *events));
+    observed = std::make_unique<Machine>(testing::machineWith(stage().program.machine, *events));
     Program& program = stage().program;
     context =
         std::make_unique<FormContext>(FormContext{*observed, program.registry, program.numbers,

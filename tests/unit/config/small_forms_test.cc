@@ -12,6 +12,7 @@
 #include "config/maker_site.h"
 #include "services/settings_keys.h"
 #include "tests/support/fake_form_host.h"
+#include "tests/support/machine_with.h"
 
 namespace tavr {
 namespace {
@@ -36,12 +37,6 @@ class ScriptedEvents : public Events {
   }
   void stopTimer(TimerId /*id*/) override {}
 };
-
-Machine withEvents(const Machine& m, Events& events) {
-  return {m.registry, m.wmi,         m.ini,     m.files,   m.processes, m.url_cache,
-          m.shell,    m.event_log,   m.parent,  m.clock,   m.locale,    events,
-          m.dialogs,  m.environment, m.desktop, m.accounts};
-}
 
 // Where a fresh form's boxes stand: inside it, and on nobody else's.
 void expectSoundLayout(const Form& form) {
@@ -128,7 +123,7 @@ TEST(MessageForm, ThatWasClosedKeepsNoHeadingOfTheLastMessage) {
 TEST(MessageQuestion, PumpsEventsUntilAButtonIsPressed) {
   TestMachine test_machine;
   ScriptedEvents events;
-  Machine machine = withEvents(test_machine.machine(), events);
+  Machine machine = testing::machineWith(test_machine.machine(), events);
   frmmsg form(machine.events);
   form.state = "vbYes";  // of the question before
   events.steps = {
@@ -149,7 +144,7 @@ TEST(MessageQuestion, PumpsEventsUntilAButtonIsPressed) {
 TEST(MessageQuestion, ComesBeforeWhatStandsOpenOnTop) {
   TestMachine test_machine;
   ScriptedEvents events;
-  Machine machine = withEvents(test_machine.machine(), events);
+  Machine machine = testing::machineWith(test_machine.machine(), events);
   frmmsg form(machine.events);
   const int shown = form.shown_again;
   events.steps = {[&] { EXPECT_EQ(form.shown_again, shown + 1); }, [&] { form.command2.press(); }};
@@ -160,7 +155,7 @@ TEST(MessageQuestion, ComesBeforeWhatStandsOpenOnTop) {
 TEST(MessageQuestion, ClosingTheFormWithoutAButtonIsNoAnswer) {
   TestMachine test_machine;
   ScriptedEvents events;
-  Machine machine = withEvents(test_machine.machine(), events);
+  Machine machine = testing::machineWith(test_machine.machine(), events);
   frmmsg form(machine.events);
   events.steps = {[&] { form.visible = false; }, [&] { EXPECT_EQ(form.state, ""); },
                   [&] { form.chameleonButton1.press(); }};

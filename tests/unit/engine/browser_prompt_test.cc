@@ -101,6 +101,35 @@ TEST(BrowserPrompt, AnUnattendedRunWithoutAParentAsksNothingAndCleansBesideTheOp
   }
 }
 
+TEST(BrowserPrompt, NoProcessIsLookedForWhereNobodyCanBeAsked) {
+  for (const char* arguments : {"t", "w2", "w3", "t-x"}) {
+    TestMachine machine;
+    machine.machineFile("processes.txt", allRunning());
+    WatchedProgram program(machine);
+    program.start(arguments);
+    EXPECT_THAT(program.queries.asked, IsEmpty()) << arguments;
+  }
+}
+
+// Each of the two tests looks for itself, also the one that the mode keeps from
+// being met.
+TEST(BrowserPrompt, EachBrowserIsLookedForTwiceWhereSomebodyCanBeAsked) {
+  std::vector<std::string> queries;
+  for (const Browser& browser : kBrowsers) {
+    const std::string process(browser.process);
+    queries.insert(queries.end(), 2, "Select * from Win32_Process WHERE Name = '" + process + "'");
+  }
+  for (const bool for_parent : {false, true}) {
+    TestMachine machine;
+    machine.ini("[parent]\nwindow=Tavrwork Brightbox\n");
+    WatchedProgram program(machine);
+    program.form.unattended = for_parent ? 1 : 0;
+    program.form.parentMode = for_parent ? 1 : 0;
+    program.run(RunKind::test);
+    EXPECT_THAT(program.queries.asked, ElementsAreArray(queries)) << for_parent;
+  }
+}
+
 TEST(BrowserPrompt, ARunForAParentAsksAlthoughItIsHidden) {
   for (const char* arguments : {"w4", "w4-x"}) {
     TestMachine machine;

@@ -5,6 +5,7 @@
 
 #include "services/access_list.h"
 #include "tests/support/access_lists.h"
+#include "tests/support/machine_with.h"
 #include "tests/support/test_machine.h"
 
 namespace tavr {
@@ -65,9 +66,7 @@ class AccessTest : public ::testing::Test {
       Machine& m = machine_.machine();
       registry_.emplace(m.registry);
       files_.emplace(m.files);
-      listed_.emplace(Machine{*registry_, m.wmi, m.ini, *files_, m.processes, m.url_cache, m.shell,
-                              m.event_log, m.parent, m.clock, m.locale, m.events, m.dialogs,
-                              m.environment, m.desktop, accounts_});
+      listed_.emplace(testing::machineWith(m, *registry_, *files_, accounts_));
     }
     return *listed_;
   }

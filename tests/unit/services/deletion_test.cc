@@ -6,6 +6,7 @@
 
 #include "services/settings_keys.h"
 #include "tests/support/forwarding_files.h"
+#include "tests/support/machine_with.h"
 #include "tests/support/test_machine.h"
 
 namespace tavr {
@@ -112,7 +113,7 @@ TEST_F(DeletionTest, NeverOverwritesAlsoWithSecureErasingOn) {
   machine.setting("Tavr wipe\\option\\option", "3", "1").setting("tavr wipe", "secure_value", "3");
   machine.file("C:\\d\\a", "secret");
   CountedFiles files(machine.machine().files);
-  Machine fake = testing::withFiles(machine.machine(), files);
+  Machine fake = testing::machineWith(machine.machine(), files);
   Form1 own_form(fake);
   own_form.file_system_object.emplace();
   FileNumbers numbers(fake);
@@ -126,10 +127,7 @@ TEST_F(DeletionTest, AFileOfTheRecycleBinIsDeletedWithoutAskingForItsRights) {
   machine.file("C:\\$Recycle.Bin\\S-1\\$R1").file("C:\\d\\a");
   RecordingEnvironment environment(machine.machine().environment);
   Machine& real = machine.machine();
-  Machine fake{real.registry,  real.wmi,       real.ini,     real.files,
-               real.processes, real.url_cache, real.shell,   real.event_log,
-               real.parent,    real.clock,     real.locale,  real.events,
-               real.dialogs,   environment,    real.desktop, real.accounts};
+  Machine fake = testing::machineWith(real, environment);
   Form1 own_form(fake);
   own_form.file_system_object.emplace();
   FileNumbers numbers(fake);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/machine_with.h"
 #include "tests/support/observed_events.h"
 #include "tests/support/test_machine.h"
 
@@ -162,7 +163,7 @@ TEST_F(DirectorySearchTest, APausedSearchCanBeCancelled) {
 TEST_F(DirectorySearchTest, EventsArePumpedAtEveryEntryOfBothPasses) {
   machine.file("C:\\d\\a.txt").file("C:\\d\\b.txt").folder("C:\\d\\sub");
   testing::ObservedEvents observed(machine.machine().events);
-  Machine fake = testing::withEvents(machine.machine(), observed);
+  Machine fake = testing::machineWith(machine.machine(), observed);
   clsdirsearch search(fake);
   search.searchinsubfolders = false;
   search.findfiles("C:\\d", "*.txt");

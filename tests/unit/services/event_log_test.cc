@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/machine_with.h"
 #include "tests/support/test_machine.h"
 
 namespace tavr {
@@ -98,9 +99,7 @@ class ReportTest : public ::testing::Test {
  protected:
   ReportTest() {
     Machine& real = machine.machine();
-    fake_.emplace(Machine{real.registry, real.wmi, real.ini, real.files, real.processes,
-                          real.url_cache, real.shell, service, real.parent, real.clock, real.locale,
-                          real.events, beeps, real.environment, real.desktop, real.accounts});
+    fake_.emplace(testing::machineWith(real, service, beeps));
   }
   void report() { fReportError(*fake_, stack, {6, "Overflow"}, "Search", "FileSizeToDouble", 12); }
 

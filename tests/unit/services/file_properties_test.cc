@@ -8,6 +8,7 @@
 
 #include "basic/number.h"
 #include "tests/support/forwarding_files.h"
+#include "tests/support/machine_with.h"
 #include "tests/support/test_machine.h"
 
 namespace tavr {
@@ -82,7 +83,7 @@ TEST_F(FilePropertiesTest, TheCreationIsATimeOfItsOwnBesideTheOtherTwo) {
   entry.accessed = entry.created + kDay;
   entry.written = entry.created + 2 * kDay + kSecond;
   FixedEntry files(machine.machine().files, entry);
-  Machine fake = testing::withFiles(machine.machine(), files);
+  Machine fake = testing::machineWith(machine.machine(), files);
   clsFileProp properties(fake);
   ASSERT_EQ(properties.FindFileInfo("C:\\a"), 1);
   EXPECT_EQ(properties.CreationTime(), "31/12/2025 3:4:5");
@@ -120,7 +121,7 @@ TEST_F(FilePropertiesTest, EachFlagIsOneAttribute) {
     FoundFile entry;
     entry.attributes = set.attribute;
     FixedEntry files(machine.machine().files, entry);
-    Machine fake = testing::withFiles(machine.machine(), files);
+    Machine fake = testing::machineWith(machine.machine(), files);
     clsFileProp properties(fake);
     properties.FindFileInfo("C:\\a");
     for (const auto& asked : kFlags) {

@@ -7,6 +7,7 @@
 #include "services/access.h"
 #include "services/access_list.h"
 #include "tests/support/access_lists.h"
+#include "tests/support/machine_with.h"
 #include "tests/support/test_machine.h"
 
 namespace tavr {
@@ -57,9 +58,7 @@ class GrantsTest : public ::testing::Test {
       Machine& m = world.machine();
       registry.emplace(m.registry);
       files.emplace(m.files);
-      listed_.emplace(Machine{*registry, m.wmi, m.ini, *files, m.processes, m.url_cache, m.shell,
-                              m.event_log, m.parent, m.clock, m.locale, m.events, m.dialogs,
-                              m.environment, m.desktop, accounts});
+      listed_.emplace(testing::machineWith(m, *registry, *files, accounts));
       program_.emplace(*listed_);
     }
     return *program_;

@@ -4,6 +4,7 @@
 #include "basic/resume_next.h"
 #include "services/deletion.h"
 #include "tests/support/forwarding_files.h"
+#include "tests/support/machine_with.h"
 #include "tests/support/observed_events.h"
 #include "tests/support/test_machine.h"
 
@@ -82,7 +83,7 @@ TEST_F(OverwritingTest, AReadOnlyHiddenFileIsFreedAndOverwritten) {
 TEST_F(OverwritingTest, ElevenPassesAreMadeEachWithTheFileOpenedAnew) {
   machine.file("C:\\d\\a", "secret");
   OpenCounts files(machine.machine().files);
-  Machine fake = testing::withFiles(machine.machine(), files);
+  Machine fake = testing::machineWith(machine.machine(), files);
   Form1 form(fake);
   FileNumbers numbers(fake);
   Deletion(fake, form, numbers).fOverwriteFile("C:\\d\\a");
@@ -93,7 +94,7 @@ TEST_F(OverwritingTest, ElevenPassesAreMadeEachWithTheFileOpenedAnew) {
 TEST_F(OverwritingTest, EventsArePumpedAfterEveryBlockAndEveryPass) {
   machine.file("C:\\d\\a", std::string(12288, 'x'));
   testing::ObservedEvents events(machine.machine().events);
-  Machine fake = testing::withEvents(machine.machine(), events);
+  Machine fake = testing::machineWith(machine.machine(), events);
   Form1 form(fake);
   FileNumbers numbers(fake);
   Deletion(fake, form, numbers).fOverwriteFile("C:\\d\\a");
@@ -120,7 +121,7 @@ TEST_F(OverwritingTest, APassThatCannotWriteIsFollowedByOnesThatCan) {
 TEST_F(OverwritingTest, AFileThatIsTakenAwayBetweenTwoBlocksIsMadeAgain) {
   machine.file("C:\\d\\a", "secret");
   testing::ObservedEvents events(machine.machine().events);
-  Machine fake = testing::withEvents(machine.machine(), events);
+  Machine fake = testing::machineWith(machine.machine(), events);
   events.onPump = [&] {
     if (events.pumped == 2) machine.machine().files.remove("C:\\d\\a");
   };

@@ -4,6 +4,7 @@
 
 #include "basic/resume_next.h"
 #include "basic/text.h"
+#include "tests/support/machine_with.h"
 #include "tests/support/test_machine.h"
 
 namespace tavr {
@@ -76,10 +77,7 @@ class ParentTotalsTest : public ::testing::Test {
  protected:
   ParentTotalsTest() {
     Machine& real = machine.machine();
-    fake_.emplace(Machine{real.registry, real.wmi, real.ini, real.files, real.processes,
-                          real.url_cache, real.shell, real.event_log, parent, real.clock,
-                          real.locale, real.events, real.dialogs, real.environment, real.desktop,
-                          real.accounts});
+    fake_.emplace(testing::machineWith(real, parent));
   }
   void send(std::string_view text) { ParentTotals(*fake_).send(text); }
 

@@ -3,6 +3,7 @@
 
 #include "basic/resume_next.h"
 #include "services/deletion.h"
+#include "tests/support/machine_with.h"
 #include "tests/support/test_machine.h"
 #include "tracks/primitives.h"
 
@@ -118,10 +119,7 @@ TEST_F(PendingRenamesTest, SavingMakesTheKeyAndWritesAMultiString) {
 TEST_F(PendingRenamesTest, SavingBindsCreatesWritesAndReadsBack) {
   RecordingWmi wmi;
   Machine& real = machine.machine();
-  Machine fake{real.registry,  wmi,         real.ini,       real.files,       real.processes,
-               real.url_cache, real.shell,  real.event_log, real.parent,      real.clock,
-               real.locale,    real.events, real.dialogs,   real.environment, real.desktop,
-               real.accounts};
+  Machine fake = testing::machineWith(real, wmi);
   Form1 own_form(fake);
   FileNumbers numbers(fake);
   Deletion own(fake, own_form, numbers);

@@ -2,6 +2,7 @@
 #include "services/access.h"
 #include "services/deletion.h"
 #include "services/settings_keys.h"
+#include "tests/support/machine_with.h"
 #include "tests/unit/services/registry_fixture.h"
 
 namespace tavr {
@@ -79,10 +80,7 @@ class RegistryMasksTest : public ::testing::Test {
   Machine& machine() {
     if (!machine_) {
       Machine& real = made.machine();
-      machine_.emplace(Machine{recorder, real.wmi, real.ini, real.files, real.processes,
-                               real.url_cache, real.shell, real.event_log, real.parent, real.clock,
-                               real.locale, real.events, real.dialogs, real.environment,
-                               real.desktop, real.accounts});
+      machine_.emplace(testing::machineWith(real, recorder));
     }
     return *machine_;
   }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/machine_with.h"
 #include "tests/support/test_machine.h"
 
 namespace tavr {
@@ -118,10 +119,7 @@ TEST_F(RunningBrowsersTest, TheListAsksForEveryRightTheQueryOnlyForTheEnd) {
   RecordingProcesses processes;
   TwoProcesses wmi;
   Machine& real = machine.machine();
-  Machine fake{real.registry,  wmi,         real.ini,       real.files,       processes,
-               real.url_cache, real.shell,  real.event_log, real.parent,      real.clock,
-               real.locale,    real.events, real.dialogs,   real.environment, real.desktop,
-               real.accounts};
+  Machine fake = testing::machineWith(real, wmi, processes);
   EXPECT_TRUE(fCloseByList(fake, "Chrome.exe"));
   using Opened = std::vector<std::pair<std::uint32_t, std::uint32_t>>;
   EXPECT_EQ(processes.opened, Opened({{0, 0x1F0FFF}, {10, 0x1F0FFF}}));

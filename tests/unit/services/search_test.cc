@@ -10,6 +10,7 @@
 #include "basic/resume_next.h"
 #include "services/event_log.h"
 #include "tests/support/forwarding_files.h"
+#include "tests/support/machine_with.h"
 #include "tests/support/test_machine.h"
 
 namespace tavr {
@@ -105,7 +106,7 @@ TEST_F(SearchTest, AFolderThatGoesDuringTheWalkLeavesItsSiblingsAndTheParentsFil
   machine.file("C:\\d\\a.txt").file("C:\\d\\k\\b.txt").file("C:\\d\\z\\c.txt");
   machine.file("C:\\d\\m\\gone.txt").file("C:\\d\\m\\deep\\gone.txt");
   VanishingFolder files(machine.machine().files, "m", machine.host("C:\\d\\m"));
-  Machine fake = testing::withFiles(machine.machine(), files);
+  Machine fake = testing::machineWith(machine.machine(), files);
   Search walk(fake, stack);
   EXPECT_NO_THROW(walk.SearchFiles("C:\\d", "*.*", true));
   EXPECT_EQ(files.removed, 4u) << "two folders, two files";
@@ -185,7 +186,7 @@ TEST_F(SearchTest, CreatedAccessedAndModifiedAreThreeTimesOfOneFile) {
   file.accessed = (109205 + 42'000) * kDay + 18 * 3600 * kSecond;
   file.written = (109205 + 41'000) * kDay + 6 * 3600 * kSecond;
   OneFile files(machine.machine().files, file);
-  Machine fake = testing::withFiles(machine.machine(), files);
+  Machine fake = testing::machineWith(machine.machine(), files);
   Search one(fake, stack);
   one.SearchFiles("C:\\d", "*.*", false);
   ASSERT_EQ(one.found().count(), 1u);
@@ -204,7 +205,7 @@ TEST_F(SearchTest, ATimeThatNoDateHoldsIsReportedAndReadsAsZero) {
   file.name = "a";
   file.written = 400'000 * std::uint64_t{365} * 86400 * kSecond;
   OneFile files(machine.machine().files, file);
-  Machine fake = testing::withFiles(machine.machine(), files);
+  Machine fake = testing::machineWith(machine.machine(), files);
   Search one(fake, stack);
   one.SearchFiles("C:\\d", "*.*", false);
   ASSERT_EQ(one.found().count(), 1u);

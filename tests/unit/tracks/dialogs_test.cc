@@ -1,6 +1,7 @@
 // The track of the open and save dialogs, whose two sides read different keys.
 #include <optional>
 
+#include "tests/support/machine_with.h"
 #include "tests/support/observed_events.h"
 #include "tests/unit/tracks/track_fixture.h"
 
@@ -129,7 +130,7 @@ class WatchedDialogs : public TrackTest {
  protected:
   Machine machineBelow(const Machine& m) override {
     watched_.emplace(m.events);
-    return withEvents(m, *watched_);
+    return testing::machineWith(m, *watched_);
   }
   std::optional<ObservedEvents> watched_;
 };

@@ -4,6 +4,7 @@
 
 #include "services/access_list.h"
 #include "tests/support/access_lists.h"
+#include "tests/support/machine_with.h"
 #include "tests/unit/tracks/track_fixture.h"
 
 namespace tavr::testing {
@@ -20,9 +21,7 @@ class TrackGrants : public TrackTest {
   }
   Machine machineBelow(const Machine& m) override {
     lists_.emplace(m.registry);
-    return {*lists_,   m.wmi,         m.ini,     m.files,  m.processes, m.url_cache,
-            m.shell,   m.event_log,   m.parent,  m.clock,  m.locale,    m.events,
-            m.dialogs, m.environment, m.desktop, accounts_};
+    return testing::machineWith(m, *lists_, accounts_);
   }
   // How many entries of the key's new list are Ann's.
   std::size_t entriesOfAnn() {

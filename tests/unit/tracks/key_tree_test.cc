@@ -1,6 +1,7 @@
 // Deleting a key with everything below it.
 #include <optional>
 
+#include "tests/support/machine_with.h"
 #include "tests/unit/tracks/track_fixture.h"
 
 namespace tavr::testing {
@@ -105,9 +106,7 @@ class TailedKeyTree : public TrackTest {
  protected:
   Machine machineBelow(const Machine& m) override {
     tailed_.emplace(m.registry);
-    return {*tailed_,  m.wmi,         m.ini,     m.files,   m.processes, m.url_cache,
-            m.shell,   m.event_log,   m.parent,  m.clock,   m.locale,    m.events,
-            m.dialogs, m.environment, m.desktop, m.accounts};
+    return testing::machineWith(m, *tailed_);
   }
 
  private:

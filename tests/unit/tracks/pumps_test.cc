@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/machine_with.h"
 #include "tests/support/observed_events.h"
 #include "tests/unit/tracks/track_fixture.h"
 
@@ -19,7 +20,7 @@ class Pumps : public TrackTest {
  protected:
   Machine machineBelow(const Machine& m) override {
     watched_.emplace(m.events);
-    return withEvents(m, *watched_);
+    return testing::machineWith(m, *watched_);
   }
   /// How many rows there were at each pump.
   RowCounts rowsAtPumps(std::string_view procedure) {

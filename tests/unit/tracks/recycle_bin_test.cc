@@ -2,6 +2,7 @@
 // shows where the shell refuses.
 #include <optional>
 
+#include "tests/support/machine_with.h"
 #include "tests/unit/tracks/track_fixture.h"
 
 namespace tavr::testing {
@@ -54,9 +55,7 @@ class BinTrack : public TrackTest {
   }
   Machine machineBelow(const Machine& m) override {
     shell_.emplace(m.shell);
-    return {m.registry, m.wmi,         m.ini,     m.files,   m.processes, m.url_cache,
-            *shell_,    m.event_log,   m.parent,  m.clock,   m.locale,    m.events,
-            m.dialogs,  m.environment, m.desktop, m.accounts};
+    return testing::machineWith(m, *shell_);
   }
   // Earlier tasks have counted already, and an earlier run has filled the member.
   void callWithTotals(std::string_view procedure) {

@@ -2,6 +2,7 @@
 // them comes to its end, reports as it always does, and leaves the keys alone.
 #include <optional>
 
+#include "tests/support/machine_with.h"
 #include "tests/unit/tracks/track_fixture.h"
 
 namespace tavr::testing {
@@ -106,9 +107,7 @@ class RefusedKeys : public TrackTest, public ::testing::WithParamInterface<Refus
   }
   Machine machineBelow(const Machine& m) override {
     refusing_.emplace(m.registry);
-    return {*refusing_, m.wmi,         m.ini,     m.files,   m.processes, m.url_cache,
-            m.shell,    m.event_log,   m.parent,  m.clock,   m.locale,    m.events,
-            m.dialogs,  m.environment, m.desktop, m.accounts};
+    return testing::machineWith(m, *refusing_);
   }
   // The registry's file, written anew if a key or value has changed.
   std::string kept() {

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "engine/program.h"
+#include "tests/support/machine_with.h"
 #include "tests/support/test_machine.h"
 #include "tests/unit/tracks/wrapped_machine.h"
 #include "tracks/catalogue.h"
@@ -102,9 +103,7 @@ class TrackTest : public ::testing::Test {
     const Machine m = machineBelow(world_.machine());
     events_ = std::make_unique<ActingEvents>(m.events);
     registry_ = std::make_unique<RecordingRegistry>(m.registry);
-    machine_ = std::make_unique<Machine>(Machine{
-        *registry_, m.wmi, m.ini, m.files, m.processes, m.url_cache, m.shell, m.event_log, m.parent,
-        m.clock, m.locale, *events_, m.dialogs, m.environment, m.desktop, m.accounts});
+    machine_ = std::make_unique<Machine>(testing::machineWith(m, *registry_, *events_));
     program_ = std::make_unique<Program>(*machine_);
     Form1& f = program_->form;
     f.View100.add("Task", "a");

@@ -1,9 +1,8 @@
 #include "tests/windows/accessible/shown_program.h"
 
-#include <commctrl.h>
-
 #include "platform/win32/wide.h"
 #include "services/settings_keys.h"
+#include "ui/win32/common_controls.h"
 
 namespace tavr::win32::testing {
 
@@ -32,8 +31,7 @@ BOOL CALLBACK collect(HWND window, LPARAM data) {
 
 ShownProgram::ShownProgram(std::string_view language)
     : program_(machine_.machine()), windows_(program_, actions_) {
-  INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES};
-  InitCommonControlsEx(&controls);
+  loadCommonControls();
   program_.registry.saveSetting(settings::kLanguageKey, "lang", std::string(language));
   program_.desk.loadLanguages();
   program_.form.visible = true;

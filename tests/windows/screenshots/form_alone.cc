@@ -2,13 +2,12 @@
 // The program with a form open that no control leads to any more: "Form52", the
 // list of what is kept, or "Form4", the note of a running browser.
 #include <windows.h>
-// Behind windows.h.
-#include <commctrl.h>
 
 #include "basic/resume_next.h"
 #include "engine/start.h"
 #include "platform/win32/wide.h"
 #include "platform/win32/win32_machine.h"
+#include "ui/win32/common_controls.h"
 #include "ui/win32/main_loop.h"
 
 namespace tavr::win32 {
@@ -18,8 +17,7 @@ namespace {
 constexpr std::string_view kAddresses = "2";
 
 void runWith(std::string_view form, Win32Machine& machine) {
-  INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES};
-  InitCommonControlsEx(&controls);
+  loadCommonControls();
   Program program(machine.machine());
   MainLoop loop(program, machine.events(), machine.desktop());
   try {

@@ -1,0 +1,38 @@
+#include "ui/win32/common_controls.h"
+
+#include "platform/win32/system_library.h"
+
+namespace tavr::win32 {
+
+namespace {
+
+// The program's manifest names the version; it holds for this way of loading too.
+template <class Function>
+Function commonControl(const char* name) {
+  // Never let go: windows of its classes may live as long as the process.
+  static const SystemLibrary& library = *new SystemLibrary(L"comctl32.dll");
+  return reinterpret_cast<Function>(library ? library.find(name) : nullptr);
+}
+
+}  // namespace
+
+void loadCommonControls() {
+  INITCOMMONCONTROLSEX controls{};
+  controls.dwSize = sizeof(controls);
+  controls.dwICC = ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES;
+  if (const auto load = commonControl<decltype(&InitCommonControlsEx)>("InitCommonControlsEx")) {
+    load(&controls);
+  }
+}
+
+HIMAGELIST createImageList(int width, int height) {
+  const auto create = commonControl<decltype(&ImageList_Create)>("ImageList_Create");
+  return create != nullptr ? create(width, height, ILC_COLOR, 1, 1) : nullptr;
+}
+
+void destroyImageList(HIMAGELIST images) {
+  const auto destroy = commonControl<decltype(&ImageList_Destroy)>("ImageList_Destroy");
+  if (destroy != nullptr && images != nullptr) destroy(images);
+}
+
+}  // namespace tavr::win32
