@@ -48,12 +48,13 @@ void ResultList::add(std::initializer_list<std::string_view> pieces) {
 void ResultList::addGhosted(std::initializer_list<std::string_view> pieces) {
   add(pieces);
   rows_.back()[(count_ - 1) % kRowsPerBlock].ghosted = true;
-  ensured_row_ = count_;
+  ensureLastVisible();
 }
 
 void ResultList::ensureLastVisible() {
   row(count_);
   ensured_row_ = count_;
+  ++ensurings_;
 }
 
 const ResultList::Row& ResultList::row(std::size_t number) const {

@@ -44,6 +44,9 @@ class ResultList : public Control {
 
   /// The row last scrolled into view, 0 for none.
   std::size_t ensuredRow() const { return ensured_row_; }
+  /// How often a row was: the same one again brings it back to somebody who has
+  /// scrolled away.
+  std::size_t ensurings() const { return ensurings_; }
 
   /// Called with the rows still in place, before they are cleared.
   std::function<void()> onClear;
@@ -66,6 +69,7 @@ class ResultList : public Control {
   std::size_t free_ = 0;  // bytes left in the last text block
   char* next_ = nullptr;
   std::size_t ensured_row_ = 0;
+  std::size_t ensurings_ = 0;
   std::size_t clearings_ = 0;
 };
 

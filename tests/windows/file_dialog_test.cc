@@ -34,7 +34,10 @@ struct Person {
     waiting_ = this;
     timer_ = SetTimer(nullptr, 0, kInterval, &look);
   }
-  ~Person() { KillTimer(nullptr, timer_); }
+  ~Person() {
+    KillTimer(nullptr, timer_);
+    waiting_ = nullptr;
+  }
   Person(const Person&) = delete;
   Person& operator=(const Person&) = delete;
 
@@ -44,7 +47,7 @@ struct Person {
   static void CALLBACK look(HWND, UINT, UINT_PTR, DWORD) {
     HWND dialog = nullptr;
     EnumThreadWindows(GetCurrentThreadId(), &seeDialog, reinterpret_cast<LPARAM>(&dialog));
-    if (dialog != nullptr) waiting_->answer(dialog);
+    if (dialog != nullptr && waiting_ != nullptr) waiting_->answer(dialog);
   }
   void answer(HWND dialog) {
     owner = GetWindow(dialog, GW_OWNER);
@@ -77,14 +80,14 @@ class FileDialogTest : public ::testing::Test {
 };
 
 TEST_F(FileDialogTest, GivesTheWholePathOfWhatIsChosen) {
-  const Person person(IDOK, L"plug-in.tvr");
+  Person person(IDOK, L"plug-in.tvr");
   EXPECT_THAT(desktop_.chooseFile("Plug-ins|*.tvr|All|*.*", ""),
               Optional(EndsWith("\\plug-in.tvr")));
   EXPECT_EQ(person.owner, window_);
 }
 
 TEST_F(FileDialogTest, GivesNothingWhenItIsCancelled) {
-  const Person person(IDCANCEL, L"plug-in.tvr");
+  Person person(IDCANCEL, L"plug-in.tvr");
   EXPECT_EQ(desktop_.chooseFile("All|*.*", ""), std::nullopt);
   EXPECT_EQ(person.owner, window_);
 }
@@ -93,7 +96,7 @@ TEST_F(FileDialogTest, GivesNothingWhenItIsCancelled) {
 TEST_F(FileDialogTest, OpensAgain) {
   for (const char* name : {"one.tvr", "two.tvr"}) {
     const std::wstring file = wide(name);
-    const Person person(IDOK, file.c_str());
+    Person person(IDOK, file.c_str());
     EXPECT_THAT(desktop_.chooseFile("All|*.*", ""), Optional(EndsWith(std::string("\\") + name)));
   }
 }

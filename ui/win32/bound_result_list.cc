@@ -29,13 +29,13 @@ void BoundResultList::syncOwn() {
 void BoundResultList::syncRows() {
   if (list_.clearings() != clearings_) {
     clearings_ = list_.clearings();
-    ensured_ = 0;
     forgetRows();
   }
   ReportList::syncOwn();
-  if (list_.ensuredRow() == ensured_) return;
-  ensured_ = list_.ensuredRow();
-  if (ensured_ > 0) ListView_EnsureVisible(window_, static_cast<int>(ensured_) - 1, FALSE);
+  if (list_.ensurings() == ensurings_) return;
+  ensurings_ = list_.ensurings();
+  const auto row = static_cast<int>(list_.ensuredRow());  // 0: cleared since
+  if (row > 0) ListView_EnsureVisible(window_, row - 1, FALSE);
 }
 
 }  // namespace tavr::win32

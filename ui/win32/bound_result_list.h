@@ -21,7 +21,7 @@ class BoundResultList : public ReportList {
   void syncRows();
 
   ResultList& list_;
-  std::size_t ensured_ = 0;
+  std::size_t ensurings_ = 0;
   std::size_t clearings_ = 0;
 };
 

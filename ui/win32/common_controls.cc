@@ -6,12 +6,16 @@ namespace tavr::win32 {
 
 namespace {
 
-// The program's manifest names the version; it holds for this way of loading too.
+// Of the version that the program's manifest names, as if it were imported. Never
+// let go: windows of its classes may live as long as the process.
+const SystemLibrary& library() {
+  static const SystemLibrary& kept = *new SystemLibrary(L"comctl32.dll");
+  return kept;
+}
+
 template <class Function>
 Function commonControl(const char* name) {
-  // Never let go: windows of its classes may live as long as the process.
-  static const SystemLibrary& library = *new SystemLibrary(L"comctl32.dll");
-  return reinterpret_cast<Function>(library ? library.find(name) : nullptr);
+  return reinterpret_cast<Function>(library() ? library().find(name) : nullptr);
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // The functions of comctl32.dll, a part of Windows. It is loaded with the first
-// window: an unattended run has none, and would spend much of its start on it.
+// form: an unattended run opens none, and would spend much of its start on it.
 #pragma once
 
 #include <windows.h>
@@ -8,8 +8,8 @@
 
 namespace tavr::win32 {
 
-/// Makes the window class of the lists known; before the first window. Where that
-/// fails, no list can be made.
+/// Makes the window classes of the lists and of the tips known; before the first
+/// control is made. Where that fails, neither can be made.
 void loadCommonControls();
 
 /// Empty images of this size in pixels, which give a list the height of its rows.

@@ -171,6 +171,17 @@ TEST(ApplyLanguage, AnEmptyFontFallsBackAndASizeThatIsNoNumberIsRefused) {
   EXPECT_EQ(stage.program.form.cmd_start.font.size, "9");
 }
 
+TEST(ApplyLanguage, WithoutAStoredFontItIsNineUnitsOfTheSystems) {
+  TestMachine machine;
+  choose(machine, "xx");
+  machine.file(kLang + "tavrwipe-xx.lang", "[Form1]\n");
+  FormStage stage(machine);
+  stage.program.form.cmd_start.font = {"Other", "20"};
+  stage.language.apply(stage.program.form);
+  EXPECT_EQ(stage.program.form.cmd_start.font.name, "Segoe UI");
+  EXPECT_EQ(stage.program.form.cmd_start.font.size, "9");
+}
+
 TEST(ApplyLanguage, TheAboutBoxDoesNotReadTheRow) {
   TestMachine machine;
   choose(machine, "xx", "204", "7");

@@ -2,6 +2,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <utility>
+#include <vector>
+
 #include "engine/window.h"
 #include "tests/support/started_program.h"
 #include "tests/support/watched_program.h"
@@ -15,10 +19,13 @@ using namespace testing;
 
 class ClosingTest : public ::testing::Test {
  protected:
+  static void plant(TestMachine& on, bool run_on_exit, bool stealth) {
+    on.setting(kOptionSetting, "firsttime", "1");
+    if (run_on_exit) on.setting(kOptionsSetting, "1", "1");
+    if (stealth) on.setting(kOptionsSetting, "5", "1").setting(kMainSetting, "key", "K");
+  }
   StartedProgram& started(std::string_view arguments, bool run_on_exit, bool stealth = false) {
-    machine.setting(kOptionSetting, "firsttime", "1");
-    if (run_on_exit) machine.setting(kOptionsSetting, "1", "1");
-    if (stealth) machine.setting(kOptionsSetting, "5", "1").setting(kMainSetting, "key", "K");
+    plant(machine, run_on_exit, stealth);
     program = std::make_unique<StartedProgram>(machine);
     program->start(arguments);
     return *program;
@@ -86,14 +93,34 @@ TEST_F(ClosingTest, WithoutTheOptionNothingRunsOnExit) {
   EXPECT_THAT(it.runs, IsEmpty());
 }
 
+TEST_F(ClosingTest, TheOptionIsOnForExactlyTheNumberOne) {
+  const std::pair<const char*, bool> kTexts[] = {{"1.0", true}, {"2", false}, {"abc", false}};
+  for (const auto& [text, on] : kTexts) {
+    TestMachine fresh;
+    plant(fresh, false, false);
+    fresh.setting(kOptionsSetting, "1", text);
+    StartedProgram it(fresh);
+    it.start("s");
+    EXPECT_TRUE(it.ends([&] { closeWindow(it.program()); })) << text;
+    EXPECT_EQ(it.runs.size(), on ? 1U : 0U) << text;
+  }
+}
+
 TEST_F(ClosingTest, EveryRoadReleasesTheHotKeyBeforeTheRun) {
-  StartedProgram& it = started("s", true, true);
-  ASSERT_EQ(it.desktop().hotKeys().size(), 1u);
-  bool released = false;
-  it.program().onRunFinished = [&](RunKind) { released = it.desktop().hotKeys().empty(); };
-  EXPECT_TRUE(it.ends([&] { it.form().chameleonButton11.press(); }));
-  EXPECT_TRUE(released);
-  EXPECT_FALSE(it.program().hot_key_installed);
+  const std::vector<std::function<void(Program&)>> roads = {
+      [](Program& it) { it.form.chameleonButton11.press(); }, closeWindow, Form_Terminate};
+  for (std::size_t road = 0; road < roads.size(); ++road) {
+    TestMachine fresh;
+    plant(fresh, true, true);
+    StartedProgram it(fresh);
+    it.start("s");
+    ASSERT_EQ(it.desktop().hotKeys().size(), 1u) << road;
+    bool released = false;
+    it.program().onRunFinished = [&](RunKind) { released = it.desktop().hotKeys().empty(); };
+    EXPECT_TRUE(it.ends([&] { roads[road](it.program()); })) << road;
+    EXPECT_TRUE(released) << road;
+    EXPECT_FALSE(it.program().hot_key_installed) << road;
+  }
 }
 
 TEST_F(ClosingTest, TheTrayIconGoesBeforeTheRunOfTheSystemClose) {

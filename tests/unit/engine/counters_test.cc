@@ -135,10 +135,16 @@ TEST(LiveFigures, ATestRunOverwritesThemAndLeavesTheStatistics) {
   TestMachine machine;
   machine.select("11")
       .setting("Tavr Brightbox Deluxe\\real", "tracks-reg-count", "old")
-      .setting(kStatisticsHere, "rcount", "40");
+      .setting("Tavr Brightbox Deluxe\\real", "tracks-file-count", "old")
+      .setting("Tavr Brightbox Deluxe\\real", "tracks-size-count", "old")
+      .setting(kStatisticsHere, "rcount", "40")
+      .setting(kStatisticsHere, "count", "41");
   machine.run("w2");
   EXPECT_EQ(machine.registryText(Root::kLocalMachine, kLive, "tracks-reg-count"), "0");
+  EXPECT_EQ(machine.registryText(Root::kLocalMachine, kLive, "tracks-file-count"), "0");
+  EXPECT_EQ(machine.registryText(Root::kLocalMachine, kLive, "tracks-size-count"), "0.000 KB");
   EXPECT_EQ(machine.registryText(Root::kLocalMachine, kStatistics, "rcount"), "40");
+  EXPECT_EQ(machine.registryText(Root::kLocalMachine, kStatistics, "count"), "41");
   EXPECT_EQ(machine.registryText(Root::kLocalMachine, kStatistics, "size"), "<none>");
 }
 

@@ -137,6 +137,17 @@ TEST_F(Folders, WithTheMarkSearchesBelowAndCountsTheOwnFilesAgain) {
   EXPECT_EQ(program.form.trackcount, 10);
 }
 
+TEST_F(Folders, AStopReachesTheSearchBelowAndNotTheOwnFiles) {
+  WatchedProgram program(machine);
+  program.form.stopflag = 1;
+  queueFolder(program.form, "C:\\app", "*.log", "1");
+  command2(program.program);
+  EXPECT_THAT(program.rows(),
+              ElementsAre(kRow + "C:\\app\\a.log <OK>", kRow + "C:\\app\\B.log <OK>",
+                          "C:\\app\\sub\\d.log " + kRow + " <OK>"));
+  EXPECT_EQ(program.form.trackcount, 0);
+}
+
 TEST_F(Folders, AnEmptyMarkIsZero) {
   WatchedProgram program(machine);
   queueFolder(program.form, "C:\\app", "*.txt", "");

@@ -66,6 +66,17 @@ TEST(InteractiveStart, WithoutALanguageTheTextsAreEnglish) {
   EXPECT_EQ(started.form().txtlang.text(), "english.ini");
 }
 
+TEST(InteractiveStart, WithNothingStoredTheTextsAreEnglishAndStartPageAndTitleEmpty) {
+  TestMachine machine;
+  StartedProgram started(machine);
+  started.form().Text12.setText("before");
+  started.form().Text13.setText("before");
+  started.start();
+  EXPECT_EQ(started.form().txtlang.text(), "english.ini");
+  EXPECT_EQ(started.form().Text12.text(), "");
+  EXPECT_EQ(started.form().Text13.text(), "");
+}
+
 TEST(InteractiveStart, TheVeryFirstStartOpensTheSettings) {
   TestMachine machine;
   StartedProgram started(machine);
@@ -227,6 +238,17 @@ TEST(HotKey, NeedsBothTheOptionAndAKey) {
     started.start();
     EXPECT_TRUE(started.desktop().hotKeys().empty());
     EXPECT_FALSE(started.program().hot_key_installed);
+  }
+}
+
+TEST(HotKey, ItsOptionIsOnForExactlyTheNumberOne) {
+  const std::pair<const char*, bool> kTexts[] = {{"1.0", true}, {"2", false}, {"abc", false}};
+  for (const auto& [text, on] : kTexts) {
+    TestMachine machine;
+    usedBefore(machine).setting(kOptionsSetting, "5", text).setting(kMainSetting, "key", "K");
+    StartedProgram started(machine);
+    started.start();
+    EXPECT_EQ(started.program().hot_key_installed, on) << text;
   }
 }
 

@@ -123,6 +123,27 @@ TEST_P(EitherRun, AddsTheTotalsOfTheTemporaryFilesAndOfEveryGroup) {
   EXPECT_EQ(program.form.Label6.caption, "3.047 KB");
 }
 
+TEST(SharedSelections, AreOnForExactlyTheNumberOne) {
+  constexpr std::string_view kProfile =
+      "C:\\Users\\user\\AppData\\Roaming\\Mozilla\\Firefox\\Profiles\\p\\";
+  const std::pair<const char*, bool> kTexts[] = {
+      {"1", true}, {"1.0", true}, {"2", false}, {"abc", false}};
+  for (const char* selection : {"44", "45", "46", "49", "52"}) {
+    for (const auto& [text, on] : kTexts) {
+      TestMachine machine;
+      machine.select(selection, text);
+      for (const char* name : {"places.sqlite", "cookies.sqlite", "formhistory.sqlite",
+                               "sessionstore.jsonlz4", "logins.json"}) {
+        machine.file(std::string(kProfile) + name);
+      }
+      WatchedProgram program(machine);
+      program.run(RunKind::erase);
+      EXPECT_EQ(!program.rows().empty(), on) << selection << " " << text;
+      EXPECT_EQ(program.task("Firefox Browser") != "Finished|0", on) << selection << " " << text;
+    }
+  }
+}
+
 TEST_P(EitherRun, ShowsOneForTheRunHistoryWhateverItFinds) {
   TestMachine machine;
   machine.select("11");

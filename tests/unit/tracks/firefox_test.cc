@@ -95,6 +95,16 @@ TEST_F(Firefox, TheSessionFolderWithTheBlankIsNotTheOneWithout) {
   EXPECT_THAT(rows(), IsEmpty());  // it looks at neither folder
 }
 
+TEST_F(Firefox, TestingTheCookiesShowsFewerThanCleaningTakes) {
+  profile("p");
+  call("t223");
+  EXPECT_THAT(rows(), ElementsAre(roaming("p\\cookies.sqlite Firefox Cookies "),
+                                  roaming("p\\cookies.sqlite.bak Firefox Cookies ")));
+  EXPECT_THAT(gone("c223", "p"),
+              ElementsAre("SiteSecurityServiceState.txt", "cookies.sqlite", "cookies.sqlite.bak",
+                          "storage\\default\\2", "webappsstore.sqlite"));
+}
+
 TEST_F(Firefox, TestingTheCacheListsTheCookiesTwiceAndTheSessionFiles) {
   profile("p");
   call("t23");

@@ -107,6 +107,20 @@ TEST_F(WindowList, AnotherRunWithAsManyRowsIsShown) {
   EXPECT_NE(picture(), before);
 }
 
+// As behind tracks of which there are none.
+TEST_F(WindowList, SomebodyWhoHasScrolledAwayIsBroughtBackWithoutANewRow) {
+  constexpr int kRows = 500;
+  for (int i = 0; i < kRows; ++i) add("row");
+  results().ensureLastVisible();
+  shown_.pump();
+  ListView_EnsureVisible(window_, 0, FALSE);
+  shown_.pump();
+  ASSERT_EQ(top(), 0) << "nobody has asked for the last row since";
+  results().ensureLastVisible();
+  shown_.pump();
+  EXPECT_EQ(lastInSight(), kRows - 1);
+}
+
 // The strip below the last whole row belongs to none.
 TEST_F(WindowList, ManyRowsAtOnceLeaveNothingOfTheRowsBefore) {
   const auto show = [this](int rows) {

@@ -1,9 +1,24 @@
 // How the program comes up.
+#include <gmock/gmock.h>
+#include <windows.h>
+// Behind windows.h.
+#include <psapi.h>
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <vector>
+
+#include "basic/text.h"
+#include "platform/win32/wide.h"
 #include "services/settings_keys.h"
 #include "tests/windows/window/window_test.h"
 
 namespace tavr::testing {
 namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 
 class Start : public WindowTest {};
 
@@ -40,6 +55,22 @@ TEST_F(Start, TheTaskTableHoldsTheSelectedTracksAndTheTenBrowsers) {
   EXPECT_EQ(list("Form1.View100").text(0), "Recent Documents History");
   EXPECT_EQ(list("Form1.View100").text(1), "Recycle Bin");
   EXPECT_EQ(list("Form1.View100").header(0), "Task");
+}
+
+// Not of the old one, which has the same name and lies in the system's folder.
+TEST_F(Start, ItsListsAreThoseOfTheVersionThatTheManifestNames) {
+  start();
+  std::array<HMODULE, 512> modules{};
+  DWORD bytes = 0;
+  ASSERT_TRUE(EnumProcessModules(program().process(), modules.data(), sizeof(modules), &bytes));
+  std::vector<std::string> found;
+  for (std::size_t i = 0; i < std::min(bytes / sizeof(HMODULE), modules.size()); ++i) {
+    std::array<wchar_t, MAX_PATH> path{};
+    GetModuleFileNameExW(program().process(), modules[i], path.data(), MAX_PATH);
+    const std::string name = LCase(win32::narrow(path.data()));
+    if (name.ends_with("\\comctl32.dll")) found.push_back(name);
+  }
+  EXPECT_THAT(found, ElementsAre(HasSubstr("\\winsxs\\")));
 }
 
 TEST_F(Start, StopIsDisabledWhileNothingRuns) {

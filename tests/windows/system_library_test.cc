@@ -1,0 +1,47 @@
+// A library that stands beside the program, where somebody may have put it.
+#include "platform/win32/system_library.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <string>
+
+namespace tavr::win32 {
+namespace {
+
+constexpr wchar_t kName[] = L"tavr-planted.dll";
+
+std::wstring besideTheProgram() {
+  std::wstring path(MAX_PATH, L'\0');
+  path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
+  return path.substr(0, path.rfind(L'\\') + 1) + kName;
+}
+
+class PlantedLibrary : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    std::wstring system(MAX_PATH, L'\0');
+    system.resize(GetSystemDirectoryW(system.data(), MAX_PATH));
+    ASSERT_TRUE(CopyFileW((system + L"\\version.dll").c_str(), planted_.c_str(), FALSE));
+  }
+  ~PlantedLibrary() override { DeleteFileW(planted_.c_str()); }
+
+  const std::wstring planted_ = besideTheProgram();
+};
+
+TEST_F(PlantedLibrary, IsNotTakenForOneOfTheSystem) {
+  const HMODULE found_by_name = LoadLibraryW(kName);
+  ASSERT_NE(found_by_name, nullptr) << "it could be loaded";
+  FreeLibrary(found_by_name);
+  EXPECT_FALSE(SystemLibrary(kName));
+}
+
+TEST(SystemLibraryTest, OneOfTheSystemIsFoundWithItsFunctions) {
+  const SystemLibrary library(L"version.dll");
+  ASSERT_TRUE(library);
+  EXPECT_NE(library.find("GetFileVersionInfoSizeW"), nullptr);
+  EXPECT_EQ(library.find("NoSuchFunction"), nullptr);
+}
+
+}  // namespace
+}  // namespace tavr::win32
