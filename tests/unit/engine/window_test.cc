@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "forms/form3.h"
 #include "tests/support/started_program.h"
 
@@ -56,6 +58,18 @@ TEST_F(WindowTest, TheOptionIsReadAtEachMinimising) {
   it.program().registry.saveSetting("software\\tavrwork\\Tavr wipe\\option\\option", "5", "1");
   it.form().chameleonButton10.press();
   EXPECT_FALSE(it.form().TrayArea1.visible());
+}
+
+TEST_F(WindowTest, TheOptionIsOnForExactlyTheNumberOne) {
+  const std::pair<const char*, bool> kTexts[] = {{"1.0", true}, {"2", false}, {"abc", false}};
+  for (const auto& [text, on] : kTexts) {
+    TestMachine own;
+    own.setting(kOptionSetting, "firsttime", "1").setting(kOptionsSetting, "5", text);
+    StartedProgram it(own);
+    it.start();
+    it.form().chameleonButton10.press();
+    EXPECT_EQ(it.form().TrayArea1.visible(), !on) << text;
+  }
 }
 
 TEST_F(WindowTest, ResizingAWindowThatIsNotMinimisedDoesNothing) {

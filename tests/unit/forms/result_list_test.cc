@@ -42,15 +42,19 @@ TEST(ResultList, AGhostedRowIsScrolledIntoView) {
   EXPECT_TRUE(list.ghosted(2));
   EXPECT_FALSE(list.ghosted(3));
   EXPECT_EQ(list.ensuredRow(), 2u);
+  EXPECT_EQ(list.ensurings(), 1u);
 }
 
 TEST(ResultList, TheLastRowCanBeScrolledIntoViewUnlessThereIsNone) {
   ResultList list;
   EXPECT_EQ(errorOf([&] { list.ensureLastVisible(); }), kErrNoElement);
   EXPECT_EQ(list.ensuredRow(), 0u);
+  EXPECT_EQ(list.ensurings(), 0u);
   list.add({"row"});
   list.ensureLastVisible();
+  list.ensureLastVisible();
   EXPECT_EQ(list.ensuredRow(), 1u);
+  EXPECT_EQ(list.ensurings(), 2u);
 }
 
 TEST(ResultList, ARowOutsideRaises) {
@@ -106,6 +110,7 @@ TEST(ResultList, AClearedListTakesRowsAgain) {
   for (int i = 0; i < 5000; ++i) list.addGhosted({"old"});
   list.clear();
   EXPECT_EQ(list.ensuredRow(), 0u);
+  EXPECT_EQ(list.ensurings(), 5000u);
   list.add({"new"});
   ASSERT_EQ(list.count(), 1u);
   EXPECT_EQ(list.text(1), "new");

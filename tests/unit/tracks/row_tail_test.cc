@@ -68,6 +68,10 @@ TEST_P(RowTail, IsAsTheTableSays) {
   const bool scrolls = closing.tail == full || closing.scrolls_by_its_rows;
   EXPECT_EQ(form().View200.ensuredRow(), scrolls ? form().View200.count() : 0u);
   EXPECT_EQ(closing.scrolls_by_its_rows, ghosted(form().View200.count()));
+  // Behind the scrolling of its rows there is one of the tail's own, or more.
+  std::size_t by_rows = 0;
+  for (std::size_t row = 1; row <= form().View200.count(); ++row) by_rows += ghosted(row) ? 1 : 0;
+  EXPECT_EQ(form().View200.ensurings() > by_rows, closing.tail == full);
   // Only the task in progress, and only its count.
   ListRow& task = form().View100.item(1);
   EXPECT_FALSE(task.subItem(1).bold);

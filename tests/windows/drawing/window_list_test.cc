@@ -121,6 +121,28 @@ TEST_F(WindowList, SomebodyWhoHasScrolledAwayIsBroughtBackWithoutANewRow) {
   EXPECT_EQ(lastInSight(), kRows - 1);
 }
 
+TEST_F(WindowList, AListThatWasClearedIsNotScrolledForTheRowsBefore) {
+  const auto fill = [this] {
+    for (int i = 0; i < 500; ++i) add("row");
+  };
+  fill();
+  results().ensureLastVisible();
+  shown_.pump();
+  results().ensureLastVisible();
+  results().clear();
+  fill();
+  shown_.pump();
+  EXPECT_EQ(top(), 0);
+}
+
+TEST_F(WindowList, AGreyedRowIsBroughtIntoSight) {
+  constexpr int kRows = 500;
+  for (int i = 0; i < kRows - 1; ++i) add("row");
+  results().addGhosted({"row"});
+  shown_.pump();
+  EXPECT_EQ(lastInSight(), kRows - 1);
+}
+
 // The strip below the last whole row belongs to none.
 TEST_F(WindowList, ManyRowsAtOnceLeaveNothingOfTheRowsBefore) {
   const auto show = [this](int rows) {
