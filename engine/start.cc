@@ -26,10 +26,13 @@ const std::string& element(const std::vector<std::string>& words, std::size_t in
 }
 
 // The configured colour of the title strip; a text that is no number leaves the
-// colours of the design.
+// colours of the design. An unattended start ends without having shown the form.
+// For a parent it asks WMI for running browsers anyway; without one, waking WMI for
+// a colour that nobody sees would be much of the start.
 void colorTitleStrip(Program& program) {
-  ResumeNext on;
   Form1& form = program.form;
+  if (form.unattended == 1 && form.parentMode == 0) return;
+  ResumeNext on;
   on.next([&] {
     const std::int32_t color = lookColor(program.machine);
     form.strip_color = color;

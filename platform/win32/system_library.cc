@@ -7,7 +7,8 @@ namespace tavr::win32 {
 SystemLibrary::SystemLibrary(const wchar_t* name)
     : module_(LoadLibraryExW(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32)) {}
 
-void* SystemLibrary::find(const char* function) const {
+void* SystemLibrary::address(const char* function) const {
+  if (!module_) return nullptr;
   return reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(module_.get()), function));
 }
 

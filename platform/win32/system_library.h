@@ -13,8 +13,12 @@ class SystemLibrary {
 
   /// False: there is none, and the last error says why.
   explicit operator bool() const { return module_ != nullptr; }
-  /// The address of an exported function; null: it exports no such one.
-  void* find(const char* function) const;
+  /// An exported function by its type. Null: it exports no such one, or there is
+  /// no library; the last error says why, if nothing was called in between.
+  template <class Function>
+  Function find(const char* function) const {
+    return reinterpret_cast<Function>(address(function));
+  }
   /// It stays loaded until the process ends.
   void keep() { (void)module_.release(); }
 
@@ -22,6 +26,8 @@ class SystemLibrary {
   struct Free {
     void operator()(void* module) const;
   };
+  void* address(const char* function) const;
+
   std::unique_ptr<void, Free> module_;  // HMODULE
 };
 

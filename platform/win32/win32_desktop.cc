@@ -41,8 +41,7 @@ std::wstring dialogFilter(std::string_view filter) {
 // the printers' and the lists' in: few starts of the program need it.
 bool askForFile(OPENFILENAMEW& dialog) {
   SystemLibrary library(L"comdlg32.dll");
-  const auto ask = reinterpret_cast<decltype(&GetOpenFileNameW)>(
-      library ? library.find("GetOpenFileNameW") : nullptr);
+  const auto ask = library.find<decltype(&GetOpenFileNameW)>("GetOpenFileNameW");
   if (ask == nullptr) return false;
   library.keep();  // what the shell shows in the dialog may run on behind it
   return ask(&dialog) != FALSE;

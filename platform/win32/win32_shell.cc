@@ -67,7 +67,6 @@ Status Win32Shell::queryRecycleBin(std::int64_t& size, std::int64_t& items) {
 }
 
 Status Win32Shell::emptyRecycleBin(std::uint32_t flags) {
-  const ComApartment apartment;  // extensions of the shell are COM objects
   const HRESULT result = SHEmptyRecycleBinW(nullptr, nullptr, flags);
   // What an empty bin answers.
   return result == E_UNEXPECTED ? kSuccess : resultStatus(result);
@@ -76,7 +75,6 @@ Status Win32Shell::emptyRecycleBin(std::uint32_t flags) {
 void Win32Shell::updateRecycleBinIcon() { SHUpdateRecycleBinIcon(); }
 
 Status Win32Shell::execute(std::string_view verb, std::string_view file, int show) {
-  const ComApartment apartment;  // extensions of the shell are COM objects
   const std::wstring wide_verb = wide(verb);
   const std::wstring wide_file = wide(file);
   SHELLEXECUTEINFOW call{};
@@ -119,8 +117,7 @@ Win32Shell::~Win32Shell() {
 Status Win32Shell::loadHelp() {
   if (html_help_ != nullptr) return kSuccess;
   SystemLibrary control(L"hhctrl.ocx");
-  if (!control) return lastStatus();
-  html_help_ = control.find("HtmlHelpW");
+  html_help_ = control.find<void*>("HtmlHelpW");
   if (html_help_ == nullptr) return lastStatus();
   control.keep();
   return kSuccess;

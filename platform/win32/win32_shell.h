@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/shell.h"
+#include "platform/win32/com.h"
 
 namespace tavr::win32 {
 
@@ -25,6 +26,8 @@ class Win32Shell : public Shell {
  private:
   Status loadHelp();
 
+  // The shell and its extensions are COM objects, and some outlive the call.
+  const ComApartment apartment_;
   // HtmlHelpW, once hhctrl.ocx is loaded. It stays loaded: help windows run in it.
   void* html_help_ = nullptr;
 };

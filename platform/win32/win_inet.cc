@@ -4,16 +4,16 @@ namespace tavr::win32 {
 
 namespace {
 
-template <typename Call>
+template <class Call>
 bool find(const SystemLibrary& library, const char* name, Call& call) {
-  call = reinterpret_cast<Call>(library.find(name));
+  call = library.find<Call>(name);
   return call != nullptr;
 }
 
 }  // namespace
 
 WinInet::WinInet() : library_(L"wininet.dll") {
-  complete_ = library_ && find(library_, "FindFirstUrlCacheEntryW", findFirst) &&
+  complete_ = find(library_, "FindFirstUrlCacheEntryW", findFirst) &&
               find(library_, "FindNextUrlCacheEntryW", findNext) &&
               find(library_, "FindCloseUrlCache", close) &&
               find(library_, "DeleteUrlCacheEntryW", remove);

@@ -69,12 +69,14 @@ class RecordingFiles : public ForwardingFiles {
   std::vector<std::pair<std::string, std::uint32_t>> attributes_set;
 };
 
-/// The machine's WMI, with the queries for processes kept.
+/// The machine's WMI, with the queries for processes kept and the bindings of the
+/// registry provider counted.
 class RecordingQueries : public Wmi {
  public:
   explicit RecordingQueries(Wmi& inner) : inner_(inner) {}
 
   std::unique_ptr<StdRegProv> bindRegistryProvider(std::string_view moniker) override {
+    ++bindings;
     return inner_.bindRegistryProvider(moniker);
   }
   bool queryProcessIds(std::string_view query, std::vector<std::uint32_t>& ids) override {
@@ -83,6 +85,7 @@ class RecordingQueries : public Wmi {
   }
 
   std::vector<std::string> asked;
+  int bindings = 0;
 
  private:
   Wmi& inner_;

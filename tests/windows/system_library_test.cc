@@ -1,4 +1,5 @@
-// A library that stands beside the program, where somebody may have put it.
+// Libraries of the system, and one that stands beside the program, where somebody
+// may have put it.
 #include "platform/win32/system_library.h"
 
 #include <gtest/gtest.h>
@@ -39,8 +40,17 @@ TEST_F(PlantedLibrary, IsNotTakenForOneOfTheSystem) {
 TEST(SystemLibraryTest, OneOfTheSystemIsFoundWithItsFunctions) {
   const SystemLibrary library(L"version.dll");
   ASSERT_TRUE(library);
-  EXPECT_NE(library.find("GetFileVersionInfoSizeW"), nullptr);
-  EXPECT_EQ(library.find("NoSuchFunction"), nullptr);
+  EXPECT_NE(library.find<void*>("GetFileVersionInfoSizeW"), nullptr);
+  EXPECT_EQ(library.find<void*>("NoSuchFunction"), nullptr);
+}
+
+TEST(SystemLibraryTest, OneThatIsNotThereHasNoFunctions) {
+  const SystemLibrary library(L"tavr-not-there.dll");
+  EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
+  EXPECT_FALSE(library);
+  SetLastError(ERROR_SUCCESS);
+  EXPECT_EQ(library.find<void*>("GetFileVersionInfoSizeW"), nullptr);
+  EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_SUCCESS)) << "nothing was looked for";
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <string>
+#include <thread>
 #include <utility>
 
 #include "platform/win32/program_file.h"
@@ -58,6 +59,21 @@ class Win32ShellTest : public ::testing::Test {
  private:
   contract::ScratchFolder scratch_{"TavrWin32Shell"};
 };
+
+// A run binds WMI late or not at all, and the shell must not depend on it.
+TEST_F(Win32ShellTest, ComIsThereForTheShellsObjectsForAsLongAsTheShellIs) {
+  std::thread elsewhere([] {
+    APTTYPE type{};
+    APTTYPEQUALIFIER qualifier{};
+    EXPECT_EQ(CoGetApartmentType(&type, &qualifier), CO_E_NOTINITIALIZED);
+    {
+      const Win32Shell shell;
+      EXPECT_EQ(CoGetApartmentType(&type, &qualifier), S_OK);
+    }
+    EXPECT_EQ(CoGetApartmentType(&type, &qualifier), CO_E_NOTINITIALIZED);
+  });
+  elsewhere.join();
+}
 
 // The texts of the task that starts the program at log-on.
 TEST_F(Win32ShellTest, ATaskIsMadeAndDeletedWithItsTextAsItStandsAndWithoutAWindow) {

@@ -7,16 +7,20 @@
 // Behind windows.h.
 #include <oleacc.h>
 
+#include "platform/win32/system_library.h"
+
 namespace tavr::win32 {
+
+// Never let go: what it made may live as long as the process.
+inline const SystemLibrary& accessibleLibrary() {
+  static const SystemLibrary& kept = *new SystemLibrary(L"oleacc.dll");
+  return kept;
+}
 
 /// Null where the system has no such function.
 template <class Function>
 Function accessibleFunction(const char* name) {
-  // Never let go: what it made may live as long as the process.
-  static const HMODULE library =
-      LoadLibraryExW(L"oleacc.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-  if (library == nullptr) return nullptr;
-  return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+  return accessibleLibrary().find<Function>(name);
 }
 
 }  // namespace tavr::win32

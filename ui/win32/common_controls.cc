@@ -13,29 +13,24 @@ const SystemLibrary& library() {
   return kept;
 }
 
-template <class Function>
-Function commonControl(const char* name) {
-  return reinterpret_cast<Function>(library() ? library().find(name) : nullptr);
-}
-
 }  // namespace
 
 void loadCommonControls() {
   INITCOMMONCONTROLSEX controls{};
   controls.dwSize = sizeof(controls);
   controls.dwICC = ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES;
-  if (const auto load = commonControl<decltype(&InitCommonControlsEx)>("InitCommonControlsEx")) {
+  if (const auto load = library().find<decltype(&InitCommonControlsEx)>("InitCommonControlsEx")) {
     load(&controls);
   }
 }
 
 HIMAGELIST createImageList(int width, int height) {
-  const auto create = commonControl<decltype(&ImageList_Create)>("ImageList_Create");
+  const auto create = library().find<decltype(&ImageList_Create)>("ImageList_Create");
   return create != nullptr ? create(width, height, ILC_COLOR, 1, 1) : nullptr;
 }
 
 void destroyImageList(HIMAGELIST images) {
-  const auto destroy = commonControl<decltype(&ImageList_Destroy)>("ImageList_Destroy");
+  const auto destroy = library().find<decltype(&ImageList_Destroy)>("ImageList_Destroy");
   if (destroy != nullptr && images != nullptr) destroy(images);
 }
 

@@ -14,6 +14,7 @@ namespace {
 
 using ::testing::Contains;
 using ::testing::Each;
+using ::testing::IsEmpty;
 using testing::TestMachine;
 using testing::WatchedProgram;
 
@@ -77,16 +78,44 @@ TEST(StartLook, AHiddenStartHidesTheWindowBeforeTheTableIsBuilt) {
   EXPECT_THAT(visibleAtTheTable("w3-x"), Contains(true));
 }
 
-TEST(StartLook, AnUnattendedStartHasTheConfiguredColourAndTheAnimation) {
+TEST(StartLook, AnUnattendedStartHasTheAnimation) {
   TestMachine machine;
-  machine.value("HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\tavrwork\\tavrwork brightbox", "color",
-                "255");
   WatchedProgram it(machine);
   it.start("t");
   EXPECT_EQ(it.form.Gif89a1.file, kProgram + "search.gif");
-  EXPECT_EQ(it.form.strip_color, 255);
-  EXPECT_EQ(it.form.chameleonButton9.color, 255);
-  EXPECT_EQ(it.form.chameleonButton13.hover_color, 255);
+}
+
+TestMachine& withColour(TestMachine& machine) {
+  return machine.setting("tavrwork brightbox", "color", "255");
+}
+
+TEST(StartLook, EveryStartThatCanShowTheStripAndThatOfAParentLooksItsColourUpBeforeTheTable) {
+  for (const char* arguments : {"", "s", "d", "x", "w4", "w4-x"}) {
+    TestMachine machine;
+    WatchedProgram it(withColour(machine));
+    int before_the_table = -1;
+    const auto change = it.form.Text4.onChange;
+    it.form.Text4.onChange = [&] {
+      if (before_the_table < 0) before_the_table = it.queries.bindings;
+      change();
+    };
+    it.start(arguments);
+    EXPECT_EQ(before_the_table, 1) << arguments;
+    EXPECT_EQ(it.form.strip_color, 255) << arguments;
+    EXPECT_EQ(it.form.chameleonButton9.color, 255) << arguments;
+    EXPECT_EQ(it.form.chameleonButton13.hover_color, 255) << arguments;
+  }
+}
+
+TEST(StartLook, AnUnattendedStartWithoutAParentDoesNotWakeWmiForAStripThatNobodySees) {
+  for (const char* arguments : {"t", "t-x", "w2", "w2-x", "w3", "w3-x"}) {
+    TestMachine machine;
+    WatchedProgram it(withColour(machine));
+    EXPECT_TRUE(it.start(arguments)) << arguments;
+    EXPECT_EQ(it.queries.bindings, 0) << arguments;
+    EXPECT_THAT(it.queries.asked, IsEmpty()) << arguments;
+    EXPECT_FALSE(it.form.has_look_color) << arguments;
+  }
 }
 
 // What a start writes, and into Text4, when the rebuilding of the table fails.
