@@ -9,7 +9,6 @@
 #include <string>
 
 #include "basic/text.h"
-#include "platform/win32/com.h"
 #include "platform/win32/system_library.h"
 #include "platform/win32/wide.h"
 #include "platform/win32/win32_error.h"
@@ -79,7 +78,7 @@ Status Win32Shell::execute(std::string_view verb, std::string_view file, int sho
   const std::wstring wide_file = wide(file);
   SHELLEXECUTEINFOW call{};
   call.cbSize = sizeof(call);
-  // Without a wait the apartment would end under a conversation with the program.
+  // Without a wait this program could end under a conversation with the opened one.
   call.fMask = SEE_MASK_FLAG_NO_UI | SEE_MASK_NOASYNC;
   call.hwnd = GetDesktopWindow();
   call.lpVerb = verb.empty() ? nullptr : wide_verb.c_str();

@@ -1,6 +1,6 @@
 // The program on a test's machine with its message boxes, its event pump, its
-// file operations and its questions for processes watched: what a test needs to
-// answer a prompt, to act in the middle of a run, or to count the openings of a file.
+// file operations and its use of WMI watched: what a test needs to answer a prompt,
+// to act in the middle of a run, or to count the openings of a file.
 #pragma once
 
 #include <cstdint>

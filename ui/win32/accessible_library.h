@@ -3,10 +3,6 @@
 // most starts do without it.
 #pragma once
 
-#include <windows.h>
-// Behind windows.h.
-#include <oleacc.h>
-
 #include "platform/win32/system_library.h"
 
 namespace tavr::win32 {

@@ -1,4 +1,5 @@
-// What a start shows before its first run: captions, colour, the hidden window.
+// What a start shows before its first run: captions, colour, the hidden window, the
+// animation, the table.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

@@ -14,7 +14,9 @@
 namespace tavr {
 namespace {
 
+using ::testing::Each;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::IsEmpty;
 using testing::TestMachine;
 using testing::WatchedProgram;
@@ -87,6 +89,7 @@ TEST(Start, AFirstUnattendedStartPresetsNothingAndWalksWithNothingSelected) {
   EXPECT_FALSE(
       machine.keyExists(Root::kLocalMachine, "software\\tavrwork\\tavr wipe\\option\\win"));
   EXPECT_EQ(program.form.View100.count(), 10);
+  EXPECT_THAT(program.table(), Each(EndsWith("|Finished|0")));
   EXPECT_THAT(program.rows(), IsEmpty());
 }
 
