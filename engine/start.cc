@@ -26,9 +26,9 @@ const std::string& element(const std::vector<std::string>& words, std::size_t in
 }
 
 // The configured colour of the title strip; a text that is no number leaves the
-// colours of the design. An unattended start ends without having shown the form.
-// For a parent it asks WMI for running browsers anyway; without one, waking WMI for
-// a colour that nobody sees would be much of the start.
+// colours of the design. An unattended start ends without having shown the form:
+// without a parent, waking WMI for a colour that nobody sees would be much of it.
+// With one, WMI is asked for running browsers anyway.
 void colorTitleStrip(Program& program) {
   Form1& form = program.form;
   if (form.unattended == 1 && form.parentMode == 0) return;

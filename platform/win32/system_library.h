@@ -11,10 +11,9 @@ class SystemLibrary {
  public:
   explicit SystemLibrary(const wchar_t* name);
 
-  /// False: there is none, and the last error says why.
-  explicit operator bool() const { return module_ != nullptr; }
-  /// An exported function by its type. Null: it exports no such one, or there is
-  /// no library; the last error says why, if nothing was called in between.
+  /// An exported function by its type. Null: the library exports no such one, and
+  /// the last error says so; or there is no library, and the last error is still
+  /// that of the constructor.
   template <class Function>
   Function find(const char* function) const {
     return reinterpret_cast<Function>(address(function));

@@ -1,5 +1,5 @@
-// The Windows shell. Calls that open something come back at once; no window of
-// the shell's own reports a failure.
+// The Windows shell, of the thread that makes and destroys it. Calls that open
+// something come back at once; no window of the shell's own reports a failure.
 #pragma once
 
 #include "platform/shell.h"

@@ -71,8 +71,8 @@ int RecordingFiles::openings(std::string_view path, OpenMode mode) const {
 WatchedProgram::WatchedProgram(TestMachine& test)
     : events(test.machine().events),
       files(test.machine().files),
-      queries(test.machine().wmi),
-      machine(machineWith(test.machine(), events, files, queries, dialogs)),
+      wmi(test.machine().wmi),
+      machine(machineWith(test.machine(), events, files, wmi, dialogs)),
       program(machine),
       form(program.form) {}
 

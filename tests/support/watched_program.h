@@ -71,9 +71,9 @@ class RecordingFiles : public ForwardingFiles {
 
 /// The machine's WMI, with the queries for processes kept and the bindings of the
 /// registry provider counted.
-class RecordingQueries : public Wmi {
+class RecordingWmi : public Wmi {
  public:
-  explicit RecordingQueries(Wmi& inner) : inner_(inner) {}
+  explicit RecordingWmi(Wmi& inner) : inner_(inner) {}
 
   std::unique_ptr<StdRegProv> bindRegistryProvider(std::string_view moniker) override {
     ++bindings;
@@ -111,7 +111,7 @@ class WatchedProgram {
   RecordingDialogs dialogs;
   HookedEvents events;
   RecordingFiles files;
-  RecordingQueries queries;
+  RecordingWmi wmi;
   Machine machine;
   Program program;
   Form1& form;

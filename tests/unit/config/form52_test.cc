@@ -283,6 +283,7 @@ TEST_F(KeepList, RefreshListsEveryAddressOnce) {
   opened("2");
   form().keepbutton11.press();
   EXPECT_THAT(texts(form().List1), ElementsAre("http://one.example/", "http://two.example/"));
+  EXPECT_THAT(texts(form().List2), ElementsAre("http://kept.example/"));
 }
 
 TEST_F(KeepList, OkReplacesTheFileAndCloses) {
@@ -307,6 +308,18 @@ TEST_F(KeepList, OkKeepsTheAddressesInAFileOfTheirOwn) {
   form().keepbutton7.press();
   EXPECT_EQ(kept("url.tvr"), "http://one.example/\r\nhttp://two.example/\r\n");
   EXPECT_FALSE(machine.exists(kFolder + "cookies.tvr"));
+}
+
+TEST_F(KeepList, OkReplacesTheAddressesThoughTheirFileIsReadOnly) {
+  addresses();
+  machine.file(kFolder + "url.tvr", " http://kept.example/ \r\nhttp://old.example/\r\n")
+      .readOnly(kFolder + "url.tvr");
+  opened("2");
+  form().List2.rows[1].selected = true;
+  form().keepbutton3.press();
+  form().List2.add("   ");
+  form().keepbutton7.press();
+  EXPECT_EQ(kept("url.tvr"), "http://kept.example/\r\n");
 }
 
 TEST_F(KeepList, AFileThatSomebodyHoldsLeavesTheListEmpty) {

@@ -171,6 +171,20 @@ TEST(ApplyLanguage, AnEmptyFontFallsBackAndASizeThatIsNoNumberIsRefused) {
   EXPECT_EQ(stage.program.form.cmd_start.font.size, "9");
 }
 
+// Unlike the colour, which the registry provider reads.
+TEST(ApplyLanguage, AFontKeptAsAnExpandableTextIsNotRead) {
+  TestMachine machine;
+  choose(machine, "xx");
+  machine
+      .rawValue(kLook, "font name", "hex(2):54,00,00,00")   // "T"
+      .rawValue(kLook, "font size", "hex(2):37,00,00,00");  // "7"
+  machine.file(kLang + "tavrwipe-xx.lang", "[Form1]\n");
+  FormStage stage(machine);
+  stage.language.apply(stage.program.form);
+  EXPECT_EQ(stage.program.form.cmd_start.font.name, "Segoe UI");
+  EXPECT_EQ(stage.program.form.cmd_start.font.size, "9");
+}
+
 TEST(ApplyLanguage, WithoutAStoredFontItIsNineUnitsOfTheSystems) {
   TestMachine machine;
   choose(machine, "xx");

@@ -56,6 +56,15 @@ TEST_F(WorkFiles, FillTheListsTheyBelongTo) {
   EXPECT_THAT(texts(form().List11), ElementsAre("HKEY_CURRENT_USER\\A,1", "", "x"));
 }
 
+TEST_F(WorkFiles, ABlankLineCountsAmongTheThreeOfAFolder) {
+  machine.file(kFolder + "plgfile.cln", "C:\\a\r\n")
+      .file(kFolder + "plgfoldr.cln", "C:\\c\r\n\r\n1\r\n\r\n*.x\r\n0\r\n");
+  read();
+  EXPECT_THAT(texts(form().List8), ElementsAre("C:\\c", ""));
+  EXPECT_THAT(texts(form().List9), ElementsAre("", "*.x"));
+  EXPECT_THAT(texts(form().List10), ElementsAre("1", "0"));
+}
+
 TEST_F(WorkFiles, WithoutTheFirstTheOthersStayUnread) {
   machine.file(kFolder + "plgfoldr.cln", "C:\\c\r\n*\r\n1\r\n")
       .file(kFolder + "plgreg.cln", "HKEY_CURRENT_USER\\A,1\r\n");

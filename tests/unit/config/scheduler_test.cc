@@ -238,8 +238,8 @@ TEST_F(Scheduler, AnHourInADateSlotIsNoDate) {
   EXPECT_EQ(fired.size(), 1U);
 }
 
-TEST_F(Scheduler, RunTypeOneStopsEverything) {
-  timerSetting("runtype", "1");
+TEST_F(Scheduler, RunTypeOneStopsEverythingHoweverItIsWritten) {
+  timerSetting("runtype", "1.0");
   timerSetting("option", "3");
   timerSetting("value", "1");
   timerSetting("nextday", "1/1/2020");

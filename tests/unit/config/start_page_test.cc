@@ -47,6 +47,13 @@ TEST_F(StartPage, IsPutBackOnYes) {
   EXPECT_EQ(person.boxes.size(), 1U);
 }
 
+TEST_F(StartPage, IsWatchedForTheNumberOneHoweverItIsWritten) {
+  machine.setting(kMainSettings, "protect_home", "1.0");
+  hold("http://old", "Old");
+  tick();
+  EXPECT_THAT(person.boxes, ElementsAre(kQuestion));
+}
+
 TEST_F(StartPage, IsAcceptedOnNo) {
   person.answer = kAnswerNo;
   hold("http://old", "Old");

@@ -107,7 +107,7 @@ TEST(BrowserPrompt, NoProcessIsLookedForWhereNobodyCanBeAsked) {
     machine.machineFile("processes.txt", allRunning());
     WatchedProgram program(machine);
     program.start(arguments);
-    EXPECT_THAT(program.queries.asked, IsEmpty()) << arguments;
+    EXPECT_THAT(program.wmi.asked, IsEmpty()) << arguments;
   }
 }
 
@@ -126,7 +126,7 @@ TEST(BrowserPrompt, EachBrowserIsLookedForTwiceWhereSomebodyCanBeAsked) {
     program.form.unattended = for_parent ? 1 : 0;
     program.form.parentMode = for_parent ? 1 : 0;
     program.run(RunKind::test);
-    EXPECT_THAT(program.queries.asked, ElementsAreArray(queries)) << for_parent;
+    EXPECT_THAT(program.wmi.asked, ElementsAreArray(queries)) << for_parent;
   }
 }
 

@@ -139,6 +139,27 @@ TEST(PlugInPhase, FillsTheWorkListsFromTheTickedDefinitions) {
   EXPECT_EQ(program.form.List7.at(0), "C:\\x\\q.dat");
 }
 
+TEST(PlugInPhase, PumpsForEachDefinitionReadLineAndWrittenLine) {
+  const std::string entries =
+      "P\r\nme\r\nwhat\r\nfiles\r\nfile=C:\\x,1\r\nfolder=C:\\app,*,1\r\n"
+      "registry\r\nHKEY_CURRENT_USER\\A,1\r\nHKEY_CURRENT_USER\\B,1\r\n";
+  const auto pumps = [&](std::initializer_list<const char*> names, const char* selection) {
+    TestMachine machine;
+    for (const char* name : names) {
+      machine.file(kFolder + "plugins\\" + name + ".tv", entries);
+    }
+    if (selection != nullptr) machine.file(kFolder + "slectplg.cln", selection);
+    WatchedProgram program(machine);
+    Command400(program.program);
+    return program.events.pumped;
+  };
+  EXPECT_EQ(pumps({"P", "Q", "R"}, nullptr), 3) << "listed";
+  EXPECT_EQ(pumps({"P", "Q", "R"}, ""), 3 + 3) << "and looked at for the selection";
+  EXPECT_EQ(pumps({"P", "Q", "R"}, "x\r\ny\r\n"), 3 + 2 + 3) << "and two lines that tick none";
+  // One file, the three lines of a folder, two of the registry.
+  EXPECT_EQ(pumps({"P"}, "P\r\n"), 1 + 1 + 1 + 1 + 3 + 2);
+}
+
 TEST(PlugInPhase, KeepsTheCookiesFolderAsTheShellReportsIt) {
   TestMachine machine;
   machine.ini("[folders]\ncookies= C:\\Cookies \n");

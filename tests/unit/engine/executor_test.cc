@@ -81,15 +81,41 @@ TEST(ReportingExecutor, EmptyListsOnlyBringTheSizeUpToDate) {
   EXPECT_EQ(program.form.txtfilesize.text(), "0");
 }
 
-TEST(ReportingExecutor, PumpsOnceForEachItem) {
+TEST(ReportingExecutor, PumpsOnceForEachFileFolderRegistryLineAndRow) {
+  TestMachine machine;
+  machine.file("C:\\app\\a.log").file("C:\\app\\b.log").value("HKEY_CURRENT_USER\\A", "v", "1");
+  WatchedProgram program(machine);
+  for (const char* row : {"one", "two", "three", "four"}) program.form.View100.add(row, "c");
+  program.form.Text14.setText("4");
+  const auto pumps = [&] {
+    const int before = program.events.pumped;
+    command2(program.program);
+    return program.events.pumped - before;
+  };
+  EXPECT_EQ(pumps(), 1) << "the row";
+  program.form.Text14.setText("3");
+  EXPECT_EQ(pumps(), 2) << "and another";
+  for (int i = 0; i < 3; ++i) program.form.List7.add("C:\\gone.dat");
+  EXPECT_EQ(pumps(), 5) << "and three files";
+  queueFolder(program.form, "C:\\app", "*.*", "0");
+  EXPECT_EQ(pumps(), 6) << "and a folder, whatever is in it";
+  program.form.List11.add("HKEY_CURRENT_USER\\A,3");
+  EXPECT_EQ(pumps(), 7) << "and a line, whatever it names";
+  EXPECT_EQ(program.rows().size(), 3U + (3 + 2) + (3 + 2 + 1));
+}
+
+TEST(ReportingExecutor, AStopReachesNeitherTheRegistryLinesNorTheRows) {
   TestMachine machine;
   WatchedProgram program(machine);
-  program.form.Text14.setText("1");  // behind the last row of the table
-  for (int i = 0; i < 3; ++i) program.form.List7.add("C:\\gone.dat");
-  queueFolder(program.form, "C:\\gone", "*.*", "0");
+  program.form.stopflag = 1;
+  program.form.View100.add("one", "c");
+  program.form.View100.add("two", "c");
+  program.form.Text14.setText("1");
   program.form.List11.add("HKEY_CURRENT_USER\\A\\B,1");
+  program.form.List11.add("HKEY_CURRENT_USER\\A\\C,1");
   command2(program.program);
-  EXPECT_EQ(program.events.pumped, 5);
+  EXPECT_EQ(program.form.txtregcount.text(), "2");
+  EXPECT_THAT(program.table(), ElementsAre("one|Done|", "two|Done|"));
 }
 
 // --- Folders --------------------------------------------------------------------

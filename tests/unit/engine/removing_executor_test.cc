@@ -80,6 +80,28 @@ TEST(RemovingExecutor, DeletesAFoldersFilesAndWithTheMarkThoseBelow) {
                                           "Plug In Application Files = C:\\other\\c.log <OK>"));
 }
 
+TEST(RemovingExecutor, AStopLeavesTheFileBelowAtWhichItIsMetAndNothingElse) {
+  TestMachine machine;
+  machine.file("C:\\a.dat").file("C:\\app\\own.log");
+  machine.file("C:\\app\\sub\\b.log").file("C:\\app\\sub\\c.log");
+  machine.key("HKEY_CURRENT_USER\\A\\B");
+  WatchedProgram program(machine);
+  program.form.stopflag = 1;
+  program.form.List7.add("C:\\a.dat");
+  queueFolder(program.form, "C:\\app", "*.log", "1");
+  program.form.List11.add("HKEY_CURRENT_USER\\A\\B,1");
+  Command4(program.program);
+  EXPECT_FALSE(machine.exists("C:\\a.dat"));
+  EXPECT_FALSE(machine.exists("C:\\app\\own.log"));
+  EXPECT_TRUE(machine.exists("C:\\app\\sub\\b.log"));
+  EXPECT_TRUE(machine.exists("C:\\app\\sub\\c.log"));
+  EXPECT_FALSE(machine.keyExists(Root::kCurrentUser, "A\\B"));
+  EXPECT_THAT(program.rows(), ElementsAre("Plug In Application Files = C:\\a.dat <OK>",
+                                          "Plug In Application Files = C:\\app\\own.log <OK>",
+                                          "C:\\app\\sub\\b.log Plug In Application Files =  <OK>",
+                                          "Plug In Registry Links = HKCU\\A\\B <OK>"));
+}
+
 TEST(RemovingExecutor, CarriesOutTheRegistryLines) {
   TestMachine machine;
   machine.value("HKEY_CURRENT_USER\\A\\B", "v", "1")
@@ -157,7 +179,7 @@ TEST(Stamp, IsMadeAsOftenAsTheSettingSaysAndOnlyWithTheOption) {
   };
   for (const Row& row : {Row{"1", "10", 10}, Row{"1", "1", 1}, Row{"1", "", 0}, Row{"1", "x", 0},
                          Row{"1", "2.5", 2}, Row{"1", "20", 20}, Row{"0", "5", 0}, Row{"", "5", 0},
-                         Row{"2", "5", 0}, Row{"1.0", "5", 5}}) {
+                         Row{"2", "5", 0}, Row{"abc", "5", 0}, Row{"1.0", "5", 5}}) {
     TestMachine machine;
     secure(machine, row.option, row.passes);
     machine.file("C:\\app\\a.log");

@@ -160,6 +160,30 @@ TEST_F(DirectorySearchTest, APausedSearchCanBeCancelled) {
   EXPECT_TRUE(finder().pause);
 }
 
+// Among the entries that are looked at for subfolders, ahead of every file.
+TEST_F(DirectorySearchTest, TheLookForSubfoldersCanBeCancelledAndPausedToo) {
+  machine.file("C:\\d\\a.txt").file("C:\\d\\sub\\b.txt");
+  testing::ObservedEvents observed(machine.machine().events);
+  Machine fake = testing::machineWith(machine.machine(), observed);
+  clsdirsearch search(fake);
+  search.searching = [&](const std::string& folder) { events.push_back("> " + folder); };
+  search.found = [&](const std::string& name, const std::string&) { events.push_back(name); };
+  observed.onPump = [&] {
+    if (observed.pumped == 2) search.pause = true;
+  };
+  const TimerId timer = observed.startTimer(500, [&] {
+    events.emplace_back("tick");
+    search.pause = false;
+  });
+  search.findfiles("C:\\d", "*.txt");
+  observed.stopTimer(timer);
+  EXPECT_EQ(events, Names({"> C:\\d\\", "tick", "a.txt", "> C:\\d\\sub\\", "b.txt"}));
+  events.clear();
+  observed.onPump = [&] { search.Cancel(); };
+  search.findfiles("C:\\d", "*.txt");
+  EXPECT_EQ(events, Names({"> C:\\d\\"}));
+}
+
 TEST_F(DirectorySearchTest, EventsArePumpedAtEveryEntryOfBothPasses) {
   machine.file("C:\\d\\a.txt").file("C:\\d\\b.txt").folder("C:\\d\\sub");
   testing::ObservedEvents observed(machine.machine().events);

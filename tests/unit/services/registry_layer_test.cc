@@ -142,6 +142,12 @@ TEST_F(RegistryLayerTest, AValueOfAFileLosesItsTextAndKeepsItsLine) {
   EXPECT_EQ(machine.read("C:\\d\\a.ini"), "[s]\r\na=\r\nb=2\r\n");
 }
 
+TEST_F(RegistryLayerTest, AValueOfAFileThatRefusesToBeWrittenCountsAsDeleted) {
+  machine.file("C:\\d\\a.ini", "[s]\r\na=1\r\n").machineFile("locked.txt", "C:\\d\\a.ini\n");
+  EXPECT_EQ(layer().fDeleteValue("C:\\d\\a.ini", "s", "a"), kSuccess);
+  EXPECT_EQ(machine.read("C:\\d\\a.ini"), "[s]\r\na=1\r\n");
+}
+
 TEST_F(RegistryLayerTest, AFileAsRootOfKeysFailsWithThePlatformsError) {
   machine.file("C:\\d\\a.ini", "[s]\r\na=1\r\n");
   std::string packed;

@@ -83,9 +83,11 @@ TEST_P(ProfileBrowser, WithoutTheKeyNothingIsSearchedThoughTheFoldersExist) {
 TEST_P(ProfileBrowser, AKeyWithoutSubkeysSearchesNothing) {
   world_.key(hkcu(GetParam().key)).file(data("Default\\Login Data"));
   world_.file(data("Login Data"));
+  form().List12.add("left over");
   call(clean(GetParam().passwords));
   call(test(GetParam().passwords));
   EXPECT_THAT(rows(), IsEmpty());
+  EXPECT_EQ(form().List12.count(), 0);
   EXPECT_EQ(count(), "");
   EXPECT_TRUE(countCell().bold);  // the tail of the test runs all the same
 }

@@ -132,21 +132,30 @@ class WatchedDialogs : public TrackTest {
     watched_.emplace(m.events);
     return testing::machineWith(m, *watched_);
   }
+  std::string rowAtThePumpsOf(std::string_view procedure) {
+    program();
+    std::string seen;
+    watched_->onPump = [&] {
+      const bool closed = countCell().bold && countCell().fore_color == kDarkRed;
+      seen += closed ? "closed " : "open ";
+      countCell().bold = false;  // to see who closes it again
+    };
+    call(procedure);
+    watched_->onPump = nullptr;
+    return seen;
+  }
   std::optional<ObservedEvents> watched_;
 };
 
 // Without keys each phase goes round once: a pump in the first, and in the
 // others one for the subkey and one for its value.
 TEST_F(WatchedDialogs, CleaningClosesItsTaskRowAfterTheFirstAndTheLastPhaseAlone) {
-  program();
-  std::string seen;
-  watched_->onPump = [&] {
-    const bool closed = countCell().bold && countCell().fore_color == kDarkRed;
-    seen += closed ? "closed " : "open ";
-    countCell().bold = false;  // to see who closes it again
-  };
-  call("c5");
-  EXPECT_EQ(seen, "open closed open open open ");
+  EXPECT_EQ(rowAtThePumpsOf("c5"), "open closed open open open ");
+  EXPECT_TRUE(countCell().bold);
+}
+
+TEST_F(WatchedDialogs, TestingClosesItsTaskRowAfterEachOfItsTwoPhases) {
+  EXPECT_EQ(rowAtThePumpsOf("t5"), "open closed open ");
   EXPECT_TRUE(countCell().bold);
 }
 

@@ -49,7 +49,7 @@ TEST_F(IndexDat, AnObjectLeftByAStopLetsTheFileGo) {
 
 TEST_F(IndexDat, TheSecureOptionRepeatsTheOverwriting) {
   cookiesAt("C:\\home\\Cookies");
-  option("1");
+  option("1.0");
   world_.setting("tavr wipe", "secure_value", "3");
   call("c9");
   // Each time over the whole file, which grows by one more block.
@@ -169,6 +169,17 @@ TEST_F(IndexDat, TestingListsTheSameAndShowsOne) {
   EXPECT_TRUE(countCell().bold);
   EXPECT_EQ(form().View200.ensuredRow(), 3u);
   EXPECT_THAT(calls({"read HKLM:"}), IsEmpty());
+}
+
+TEST_F(IndexDat, BothSidesLeaveTheCookieFolderAsTheCurrentOne) {
+  for (const char* procedure : {"c9", "t9"}) {
+    TestMachine machine;
+    machine.file(direct).value(hkcu(kShellFolders), "Cookies", "C:\\home\\Cookies");
+    Program own(machine.machine());
+    callProcedure(own.tracks, procedure);
+    std::uint32_t attributes = 0;
+    EXPECT_EQ(machine.machine().files.attributes("index.dat", attributes), kSuccess) << procedure;
+  }
 }
 
 TEST_F(IndexDat, TheReadOnlyMarkIsTakenOffInTheTestToo) {

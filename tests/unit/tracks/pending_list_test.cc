@@ -1,5 +1,8 @@
 // Files that wait for the next start of Windows: which searches skip them, and
 // what the deletion that skips them queues.
+#include <optional>
+
+#include "tests/support/forwarding_files.h"
 #include "tests/unit/tracks/three_logs.h"
 
 namespace tavr::testing {
@@ -70,6 +73,41 @@ TEST_F(PendingList, APendingListThatCannotBeReadSkipsNothing) {
   srch2(tracks(), kLogs, "*.log", "label");
   EXPECT_EQ(form().Text16.text(), "");
   EXPECT_EQ(form().trackcount, 3);
+}
+
+// What the text of the pending list holds while a folder is listed.
+class ListedFolders : public ForwardingFiles {
+ public:
+  using ForwardingFiles::ForwardingFiles;
+  void listFolder(std::string_view folder, std::string_view mask, FolderListing& listing) override {
+    if (onList) onList();
+    ForwardingFiles::listFolder(folder, mask, listing);
+  }
+  std::function<void()> onList;
+};
+
+class PendingListAtTheSearch : public PendingList {
+ protected:
+  Machine machineBelow(const Machine& m) override {
+    listed_.emplace(m.files);
+    return testing::machineWith(m, *listed_);
+  }
+  using Primitive = decltype(&srch2);
+  std::string textAtTheSearchOf(Primitive primitive) {
+    form().Text16.setText("left over");
+    std::string text = "<nothing listed>";
+    listed_->onList = [&] { text = form().Text16.text(); };
+    primitive(tracks(), "C:\\d\\sub", "*.log", "label");
+    return text;
+  }
+  std::optional<ListedFolders> listed_;
+};
+
+TEST_F(PendingListAtTheSearch, IsReadByTheListingBeforeItAndByTheDeletionBehindIt) {
+  pending({"\\??\\C:\\x", ""});
+  EXPECT_EQ(textAtTheSearchOf(srch2), "|\\??\\c:\\x|");
+  EXPECT_EQ(textAtTheSearchOf(srchd2), "left over");
+  EXPECT_EQ(form().Text16.text(), "|\\??\\c:\\x|");
 }
 
 TEST_F(PendingList, PlainSearchesDoNotLookAtThePendingList) {

@@ -64,6 +64,17 @@ TEST_F(Stop, ASkippingDeletionThatIsStoppedSavesNothingAndKeepsTheObject) {
             "<none>");
 }
 
+TEST_F(Stop, AListingLeavesNoObjectStoppedOrNot) {
+  for (const auto listing : {srch, srch2}) {
+    form().stopflag = 0;
+    listing(tracks(), kLogs, "*.log", "label");
+    EXPECT_FALSE(form().file_system_object.has_value());
+    form().stopflag = 1;
+    listing(tracks(), kLogs, "*.log", "label");
+    EXPECT_FALSE(form().file_system_object.has_value());
+  }
+}
+
 TEST_F(Stop, OnlyTheNumberOneStops) {
   form().stopflag = 2;
   srch(tracks(), kLogs, "*.log", "label");

@@ -127,6 +127,28 @@ TEST_F(CachedPages, AnOptionOfAnotherNumberThanOneOverwritesNothing) {
   EXPECT_EQ(fileCount(), "3");
 }
 
+TEST_F(CachedPages, SettingsAreOnByTheirNumberHoweverItIsWritten) {
+  keepEntriesAndFiles();
+  secure("1.0", "1.0", "1");
+  call("c8");
+  EXPECT_EQ(left("a.htm"), "<overwritten>");
+  EXPECT_EQ(left("b.htm"), "<overwritten>");
+}
+
+TEST_F(CachedPages, AnOptionThatIsNoNumberOverwritesNothing) {
+  keepEntriesAndFiles();
+  secure("1", "abc", "1");
+  call("c8");
+  EXPECT_EQ(left("a.htm"), std::string(10, 'a'));
+}
+
+TEST_F(CachedPages, SecureCleaningThatIsNoNumberLeavesTheFilesToTheCache) {
+  keepEntries();
+  secure("abc", "1", "1");
+  call("c8");
+  EXPECT_EQ(left("a.htm"), std::string(10, 'a'));
+}
+
 TEST_F(CachedPages, SecureOverwritingOfOneRoundTakesEveryFile) {
   keepEntries();
   secure("1", "1", "1");

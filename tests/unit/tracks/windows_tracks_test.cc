@@ -53,6 +53,16 @@ TEST_F(WindowsTracks, TheRunHistoryRowBeginsWithTheLanguagesText) {
   EXPECT_THAT(rows(), ElementsAre("Cleaned:Clean start run history  <OK>"));
 }
 
+TEST_F(WindowsTracks, TheRowsOfTestedRunHistoryAndOfRecentDocumentsBeginWithNone) {
+  world_.file("C:\\Program Files\\Tavr Wipe\\lang\\x.ini",
+              "[001]\r\n031=Documents: \r\n033=Cleaned: \r\n");
+  form().txtlang.setText("x.ini");
+  for (const char* procedure : {"t1", "c3", "t3"}) call(procedure);
+  EXPECT_THAT(rows(),
+              ElementsAre("Windows Start Run History  <OK>", "start documents history  <OK>",
+                          "start documents history  <OK>"));
+}
+
 TEST_F(WindowsTracks, TestingRunHistoryReportsOneTrackWithoutReadingAKey) {
   call("t1");
   EXPECT_THAT(rows(), ElementsAre("Windows Start Run History  <OK>"));
