@@ -71,6 +71,11 @@ int compareUpper(std::string_view a, std::string_view b) {
   std::size_t i = 0;
   std::size_t j = 0;
   while (i < a.size() && j < b.size()) {
+    if (a[i] == b[j] && static_cast<unsigned char>(a[i]) < 0x80) {  // most: nothing to decode
+      ++i;
+      ++j;
+      continue;
+    }
     const char32_t x = upperCase(nextCharacter(a, i));
     const char32_t y = upperCase(nextCharacter(b, j));
     if (x == y) continue;

@@ -4,6 +4,7 @@ file(GLOB sources CONFIGURE_DEPENDS contract/*_contract_test.cc contract/win32_*
      windows/*_test.cc)
 add_executable(test_contract ${sources} windows/display.cc)
 target_link_libraries(test_contract PRIVATE tavr_services tavr_win32 gmock_main wininet)
+target_precompile_headers(test_contract REUSE_FROM tavr_test_headers)
 
 # Started by test_contract under other names; it looks for them beside itself.
 add_executable(sleeper WIN32 windows/sleeper.cc)
