@@ -1,1 +1,1 @@
-// Nothing but the headers that are compiled with it, for all tests.
+// Nothing but the headers that are compiled with it, for the tests of many files.

@@ -12,8 +12,8 @@ class SystemLibrary {
   explicit SystemLibrary(const wchar_t* name);
 
   /// An exported function by its type. Null: the library exports no such one, and
-  /// the last error says so; or there is no library, and the last error is still
-  /// that of the constructor.
+  /// the last error says so; or there is no library, and the last error is left
+  /// as it was.
   template <class Function>
   Function find(const char* function) const {
     return reinterpret_cast<Function>(address(function));

@@ -33,6 +33,7 @@ class PlantedLibrary : public ::testing::Test {
 TEST_F(PlantedLibrary, IsNotTakenForOneOfTheSystem) {
   const HMODULE found_by_name = LoadLibraryW(kName);
   ASSERT_NE(found_by_name, nullptr) << "it could be loaded";
+  EXPECT_NE(GetProcAddress(found_by_name, "GetFileVersionInfoSizeW"), nullptr) << "with all it has";
   FreeLibrary(found_by_name);
   EXPECT_EQ(SystemLibrary(kName).find<void*>("GetFileVersionInfoSizeW"), nullptr);
 }

@@ -7,12 +7,17 @@
 
 namespace tavr::win32 {
 
+// Never let go: what it made may live as long as the process. Loaded once for all
+// the types of function.
+inline const SystemLibrary& accessibleLibrary() {
+  static const SystemLibrary& kept = *new SystemLibrary(L"oleacc.dll");
+  return kept;
+}
+
 /// Null where the system has no such function.
 template <class Function>
 Function accessibleFunction(const char* name) {
-  // Never let go: what it made may live as long as the process.
-  static const SystemLibrary& kept = *new SystemLibrary(L"oleacc.dll");
-  return kept.find<Function>(name);
+  return accessibleLibrary().find<Function>(name);
 }
 
 }  // namespace tavr::win32

@@ -239,16 +239,20 @@ TEST_F(Scheduler, AnHourInADateSlotIsNoDate) {
 }
 
 TEST_F(Scheduler, RunTypeOneStopsEverythingHoweverItIsWritten) {
-  timerSetting("runtype", "1.0");
   timerSetting("option", "3");
   timerSetting("value", "1");
   timerSetting("nextday", "1/1/2020");
   machine.setting(kMainSettings, "protect_home", "1");
   machine.value(kBrowserSettings, "Start Page", "http://other");
-  play(kDay);
-  EXPECT_THAT(changes, IsEmpty());
-  EXPECT_THAT(person.boxes, IsEmpty());
-  EXPECT_EQ(form().Text7.text(), "");
+  for (const char* type : {"1", "1.0"}) {
+    SCOPED_TRACE(type);
+    timerSetting("runtype", type);
+    changes.clear();
+    play(kDay);
+    EXPECT_THAT(changes, IsEmpty());
+    EXPECT_THAT(person.boxes, IsEmpty());
+    EXPECT_EQ(form().Text7.text(), "");
+  }
 }
 
 TEST_F(Scheduler, OtherRunTypesLetItWork) {

@@ -141,7 +141,7 @@ TEST(PlugInPhase, FillsTheWorkListsFromTheTickedDefinitions) {
 
 TEST(PlugInPhase, PumpsForEachDefinitionReadLineAndWrittenLine) {
   const std::string entries =
-      "P\r\nme\r\nwhat\r\nfiles\r\nfile=C:\\x,1\r\nfolder=C:\\app,*,1\r\n"
+      "P\r\nme\r\nwhat\r\nfiles\r\nfile=C:\\x,1\r\nfolder=C:\\app,,* 1\r\n"
       "registry\r\nHKEY_CURRENT_USER\\A,1\r\nHKEY_CURRENT_USER\\B,1\r\n";
   const auto pumps = [&](std::initializer_list<const char*> names, const char* selection) {
     TestMachine machine;

@@ -80,7 +80,7 @@ TEST(RemovingExecutor, DeletesAFoldersFilesAndWithTheMarkThoseBelow) {
                                           "Plug In Application Files = C:\\other\\c.log <OK>"));
 }
 
-TEST(RemovingExecutor, AStopLeavesTheFileBelowAtWhichItIsMetAndNothingElse) {
+TEST(RemovingExecutor, AStopLeavesTheFilesBelowFromTheOneAtWhichItIsMetAndNothingElse) {
   TestMachine machine;
   machine.file("C:\\a.dat").file("C:\\app\\own.log");
   machine.file("C:\\app\\sub\\b.log").file("C:\\app\\sub\\c.log");

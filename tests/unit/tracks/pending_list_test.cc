@@ -1,5 +1,6 @@
 // Files that wait for the next start of Windows: which searches skip them, and
 // what the deletion that skips them queues.
+#include <functional>
 #include <optional>
 
 #include "tests/support/forwarding_files.h"
@@ -75,7 +76,7 @@ TEST_F(PendingList, APendingListThatCannotBeReadSkipsNothing) {
   EXPECT_EQ(form().trackcount, 3);
 }
 
-// What the text of the pending list holds while a folder is listed.
+// Does something whenever a folder is listed.
 class ListedFolders : public ForwardingFiles {
  public:
   using ForwardingFiles::ForwardingFiles;
@@ -86,6 +87,7 @@ class ListedFolders : public ForwardingFiles {
   std::function<void()> onList;
 };
 
+// What the text of the pending list holds while a folder is listed.
 class PendingListAtTheSearch : public PendingList {
  protected:
   Machine machineBelow(const Machine& m) override {
@@ -98,6 +100,7 @@ class PendingListAtTheSearch : public PendingList {
     std::string text = "<nothing listed>";
     listed_->onList = [&] { text = form().Text16.text(); };
     primitive(tracks(), "C:\\d\\sub", "*.log", "label");
+    listed_->onList = nullptr;
     return text;
   }
   std::optional<ListedFolders> listed_;

@@ -53,7 +53,7 @@ TEST_F(WindowsTracks, TheRunHistoryRowBeginsWithTheLanguagesText) {
   EXPECT_THAT(rows(), ElementsAre("Cleaned:Clean start run history  <OK>"));
 }
 
-TEST_F(WindowsTracks, TheRowsOfTestedRunHistoryAndOfRecentDocumentsBeginWithNone) {
+TEST_F(WindowsTracks, TheRowsOfTestedRunHistoryAndOfRecentDocumentsBeginWithoutTheLanguagesText) {
   world_.file("C:\\Program Files\\Tavr Wipe\\lang\\x.ini",
               "[001]\r\n031=Documents: \r\n033=Cleaned: \r\n");
   form().txtlang.setText("x.ini");
