@@ -15,5 +15,5 @@ add_executable(test_drawing ${sources} ${folder}/picture.cc ${folder}/sample_pic
                ${folder}/drawing_test.rc)
 # It measures the program's speed, and templates of both are kept once, as the test
 # compiles them.
-target_compile_options(test_drawing PRIVATE -O3)
+target_compile_options(test_drawing PRIVATE -O1)
 target_link_libraries(test_drawing PRIVATE tavr_ui_win32 gmock_main comctl32)
