@@ -1,1 +1,1 @@
-// Nothing but the headers that are compiled with it, for the tests of many files.
+// Nothing but the headers that are compiled with it, for the programs that use them.

@@ -4,6 +4,6 @@
 file(GLOB sources CONFIGURE_DEPENDS windows/window/*.cc)
 add_executable(test_windows ${sources} ${CMAKE_CURRENT_LIST_DIR}/accessible/shown_program.cc
                ${CMAKE_CURRENT_LIST_DIR}/display.cc)
-target_compile_options(test_windows PRIVATE -O1)  # as test_drawing
 target_link_libraries(test_windows PRIVATE tavr_ui_win32 gmock_main comctl32)
+target_precompile_headers(test_windows REUSE_FROM tavr_test_headers)
 add_dependencies(test_windows tavrwipe form_alone recorder)

@@ -246,8 +246,7 @@ TEST_F(Scheduler, RunTypeOneStopsEverythingHoweverItIsWritten) {
   machine.value(kBrowserSettings, "Start Page", "http://other");
   for (const char* type : {"1", "1.0"}) {
     SCOPED_TRACE(type);
-    timerSetting("runtype", type);
-    changes.clear();
+    stage().program.registry.saveSetting("software\\tavrwork\\tavr wipe\\timer", "runtype", type);
     play(kDay);
     EXPECT_THAT(changes, IsEmpty());
     EXPECT_THAT(person.boxes, IsEmpty());
