@@ -1,5 +1,5 @@
 # The drawing code on pictures in memory, and the windows that only it makes. All
-# but the tests named Window... run without a display.
+# but the tests with Window in their names run without a display.
 set(folder ${CMAKE_CURRENT_LIST_DIR}/drawing)
 set_source_files_properties(${folder}/drawing_test.rc PROPERTIES
   COMPILE_OPTIONS "-I${PROJECT_SOURCE_DIR}"
