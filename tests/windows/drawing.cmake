@@ -13,7 +13,7 @@ add_executable(test_drawing ${sources} ${folder}/picture.cc ${folder}/sample_pic
                ${folder}/measured_form.cc ${folder}/system_colors.cc ${folder}/test_window.cc
                ${folder}/../accessible/shown_program.cc ${folder}/../display.cc
                ${folder}/drawing_test.rc)
-# It holds the program's speed to limits, and of templates that both have, the test's
-# are kept: -Og's are too slow for the limits, and -O3 compiles a third longer.
+# It measures the program's speed, and of templates that both have, the test's are
+# kept: nearer to the program's with -O1 than with -Og. -O3 compiles a third longer.
 target_compile_options(test_drawing PRIVATE -O1)
 target_link_libraries(test_drawing PRIVATE tavr_ui_win32 gmock_main comctl32)
